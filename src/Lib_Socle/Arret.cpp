@@ -1,0 +1,7 @@
+#include "Arret.hpp"
+
+namespace socle {
+
+void arreter(int statut) { throw arret{statut}; }
+
+}  // namespace socle

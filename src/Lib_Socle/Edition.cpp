@@ -1,0 +1,113 @@
+#include "Edition.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string_view>
+
+#include "Arithmetique.hpp"
+
+namespace socle {
+namespace {
+
+/// Right-justified in the width; asterisks where it is too long.
+std::string loc_cadrer(int largeur, std::string_view v) {
+  const auto l = static_cast<std::size_t>(std::max(largeur, 0));
+  if (v.size() > l) return std::string(l, '*');
+  std::string resultat(l, ' ');
+  std::copy(v.begin(), v.end(), resultat.end() - static_cast<std::ptrdiff_t>(v.size()));
+  return resultat;
+}
+
+/// As loc_cadrer, after dropping the zero in front of the point when the text is one too long.
+std::string loc_cadrer_reel(int largeur, std::string& v) {
+  if (static_cast<int>(v.size()) > largeur) {
+    const std::size_t debut = v.front() == '-' ? 1 : 0;
+    if (v.size() > debut + 2 && v[debut] == '0' && v[debut + 1] == '.') v.erase(debut, 1);
+  }
+  return loc_cadrer(largeur, v);
+}
+
+std::string loc_non_fini(int largeur, double v) {
+  if (std::isnan(v)) return loc_cadrer(largeur, "NaN");
+  if (v > 0) return loc_cadrer(largeur, largeur >= 8 ? "Infinity" : "Inf");
+  return loc_cadrer(largeur, largeur >= 9 ? "-Infinity" : "-Inf");
+}
+
+/// The fixed form for G: thresholds and choice in the type of the value.
+template <class reel>
+std::string loc_edite_g(G f, reel v) {
+  const reel m = std::abs(v);
+  if (!std::isfinite(v)) return loc_non_fini(f.largeur, static_cast<double>(v));
+  const auto large = static_cast<double>(v);
+  const auto fixe = [&](int decimales) { return edite(F{f.largeur - 4, decimales}, large).append(4, ' '); };
+  if (m == reel{0}) return fixe(f.decimales - 1);
+
+  const auto dix_d = static_cast<reel>(puissance_dix(f.decimales));
+  const reel presque_un = reel{1} - reel{0.5} / dix_d;
+  if (m < static_cast<reel>(0.1 * static_cast<double>(presque_un)) || reel{0.5} >= dix_d - m)
+    return edite(E{f.largeur, f.decimales}, large);
+  int s = 0;
+  while (s < f.decimales && m >= static_cast<reel>(puissance_dix(s)) * presque_un) ++s;
+  return fixe(f.decimales - s);
+}
+
+}  // namespace
+
+std::string edite(I f, int v) {
+  std::array<char, 12> tampon{};
+  const auto fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), v).ptr;
+  return loc_cadrer(f.largeur, {tampon.data(), static_cast<std::size_t>(fin - tampon.data())});
+}
+
+std::string edite(F f, double v) {
+  if (!std::isfinite(v)) return loc_non_fini(f.largeur, v);
+  // Too long for the width before any digit is worked out; keeps the buffer small.
+  if (f.largeur <= 0 || f.largeur > 64 || f.decimales > 40 || std::abs(v) >= 1e65)
+    return std::string(static_cast<std::size_t>(std::max(f.largeur, 0)), '*');
+  std::array<char, 128> tampon{};
+  const auto fin =
+      std::to_chars(tampon.data(), tampon.data() + tampon.size(), v, std::chars_format::fixed, f.decimales)
+          .ptr;
+  std::string resultat(tampon.data(), fin);
+  if (f.decimales == 0) resultat += '.';
+  return loc_cadrer_reel(f.largeur, resultat);
+}
+
+std::string edite(E f, double v) {
+  if (!std::isfinite(v)) return loc_non_fini(f.largeur, v);
+  std::array<char, 64> tampon{};
+  const int chiffres = std::clamp(f.decimales, 1, 40);
+  const auto fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), v,
+                                 std::chars_format::scientific, chiffres - 1)
+                       .ptr;
+  // d.ddde+xx becomes 0.ddddE+yy, with yy = xx + 1.
+  const std::string_view brut(tampon.data(), static_cast<std::size_t>(fin - tampon.data()));
+  const std::size_t place_e = brut.find('e');
+  int exposant = 0;
+  const std::size_t signe = brut[place_e + 1] == '+' ? 2 : 1;
+  std::from_chars(brut.data() + place_e + signe, brut.data() + brut.size(), exposant);
+  if (v != 0) ++exposant;
+
+  std::string resultat(std::signbit(v) ? "-0." : "0.");
+  for (const char c : brut.substr(0, place_e))
+    if (c >= '0' && c <= '9') resultat += c;
+  const int grandeur = std::abs(exposant);
+  if (grandeur < 100) resultat += f.lettre;
+  resultat += exposant < 0 ? '-' : '+';
+  if (grandeur < 10) resultat += '0';
+  resultat += std::to_string(grandeur);
+  return loc_cadrer_reel(f.largeur, resultat);
+}
+
+std::string edite(G f, double v) { return loc_edite_g(f, v); }
+std::string edite(G f, float v) { return loc_edite_g(f, v); }
+
+std::string ajuste_gauche(std::string v) {
+  const std::size_t n = std::min(v.find_first_not_of(' '), v.size());
+  std::rotate(v.begin(), v.begin() + static_cast<std::ptrdiff_t>(n), v.end());
+  return v;
+}
+
+}  // namespace socle
