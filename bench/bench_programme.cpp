@@ -33,7 +33,8 @@ mesure loc_lancer(const std::string& fichier) {
   rusage usage{};
   wait4(enfant, &etat, 0, &usage);
   const std::chrono::duration<double> duree = std::chrono::steady_clock::now() - debut;
-  return {duree.count(), static_cast<double>(usage.ru_maxrss) / 1024.0, WIFEXITED(etat) ? WEXITSTATUS(etat) : -1};
+  return {duree.count(), static_cast<double>(usage.ru_maxrss) / 1024.0,
+          WIFEXITED(etat) ? WEXITSTATUS(etat) : -1};
 }
 
 /// A column under this many load cases, all in one JUST.
@@ -45,7 +46,8 @@ std::string loc_donnees(int cas) {
       "FERR CAGE\nTITR '8 HA20'\nMATE B500\nDIAM 20.\nPOIN\n"
       "NUME 101 Y -0.15 Z -0.15 FIN_POIN\nNUME 102 Y 0. Z -0.15 FIN_POIN\nNUME 103 Y 0.15 Z -0.15 FIN_POIN\n"
       "NUME 104 Y 0.15 Z 0. FIN_POIN\nNUME 105 Y 0.15 Z 0.15 FIN_POIN\nNUME 106 Y 0. Z 0.15 FIN_POIN\n"
-      "NUME 107 Y -0.15 Z 0.15 FIN_POIN\nNUME 108 Y -0.15 Z 0. FIN_POIN\nFIN_POIN\nFIN_FERR\nFIN_CONT\nFIN_SECT\n"
+      "NUME 107 Y -0.15 Z 0.15 FIN_POIN\nNUME 108 Y -0.15 Z 0. "
+      "FIN_POIN\nFIN_POIN\nFIN_FERR\nFIN_CONT\nFIN_SECT\n"
       "SOLL GRILLE SECT POTEAU\nTITR 'Grille'\nREPE GEOM\nETAT ELU DURA SITU EXPL SERV POND\n";
   for (int i = 0; i < cas; ++i) {
     char ligne[96];
@@ -77,7 +79,9 @@ void BM_FichierMinimal(benchmark::State& etat) { loc_mesurer(etat, "ZOF\nFIN_\n"
 BENCHMARK(BM_FichierMinimal)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 // Time and memory against the number of cases: 1 000, 10 000, 100 000.
-void BM_CasDeCharge(benchmark::State& etat) { loc_mesurer(etat, loc_donnees(static_cast<int>(etat.range(0)))); }
+void BM_CasDeCharge(benchmark::State& etat) {
+  loc_mesurer(etat, loc_donnees(static_cast<int>(etat.range(0))));
+}
 BENCHMARK(BM_CasDeCharge)
     ->RangeMultiplier(10)
     ->Range(1000, 100000)

@@ -1,5 +1,5 @@
-// libFuzzer: the bytes are a data file; whatever they are, the run ends by itself with a status of the program and
-// touches none but its own files.
+// libFuzzer: the bytes are a data file; whatever they are, the run ends by itself with a status of the
+// program and touches none but its own files.
 #include <array>
 #include <cstddef>
 #include <cstdint>
