@@ -16,12 +16,6 @@
 
 #include "QB7_Types.hpp"
 
-/// The four forms of qb7_loi_lin_bilin.
-constexpr int qb7_loi_nulle = 10000;              ///< no stress at any strain
-constexpr int qb7_loi_lineaire = 10010;           ///< elastic in tension and in compression
-constexpr int qb7_loi_compression_seule = 10020;  ///< elastic in compression, nothing in tension
-constexpr int qb7_loi_traction_seule = 10030;     ///< elastic in tension, nothing in compression
-
 /// Piecewise linear law through the points (tab_epsilons, tab_sigmas), n + 1 points for n intervals; the
 /// first and the last segment are prolonged without end. A law whose limits or hole type are refused is
 /// removed again. ERR_NBRE_INT_LOI: fewer than two points; ERR_DIM_TAB (size of tab_sigmas): another number
@@ -31,15 +25,15 @@ constexpr int qb7_loi_traction_seule = 10030;     ///< elastic in tension, nothi
                                       std::span<const double> tab_sigmas,
                                       std::optional<double> epsilon_min = {},
                                       std::optional<double> epsilon_max = {},
-                                      std::optional<int> type_trou = {});
+                                      std::optional<qb7_type_trou> type_trou = {});
 
-/// Elastic law of modulus e in one of the four forms above; the limits on stress become limits on strain.
-/// ERR_MODULE: e absent, zero or negative, or e positive for the null law; ERR_LIMITES_LOI: a limit that the
-/// form excludes; ERR_TYPE_LOI (type_loi): unknown form.
-[[nodiscard]] ier_2 qb7_loi_lin_bilin(int num_materiau, int num_etat_lim, int type_loi,
+/// Elastic law of modulus e in one of the four forms of qb7_type_loi; the limits on stress become limits on
+/// strain. ERR_MODULE: e absent, zero or negative, or e positive for the null law; ERR_LIMITES_LOI: a limit
+/// that the form excludes; ERR_TYPE_LOI (type_loi): unknown form.
+[[nodiscard]] ier_2 qb7_loi_lin_bilin(int num_materiau, int num_etat_lim, qb7_type_loi type_loi,
                                       std::optional<double> e = {}, std::optional<double> sigma_min = {},
                                       std::optional<double> sigma_max = {},
-                                      std::optional<int> type_trou = {});
+                                      std::optional<qb7_type_trou> type_trou = {});
 
 /// Parabola-rectangle of concrete (EN 1992-1-1 3.1.7 (1), exponent 2): nothing in tension, parabola up to
 /// f_cd at eps_c1, plateau. The limit is eps_cu, or with `limites` the strain at which the parabola reaches
@@ -69,7 +63,8 @@ constexpr int qb7_loi_traction_seule = 10030;     ///< elastic in tension, nothi
 [[nodiscard]] ier_2 qb7_loi_elastoplastique_avec_bornes(int num_materiau, int num_etat_lim, double eps_palier,
                                                         double f_palier, double eps_rupture, double f_rupture,
                                                         bool limites, double f_min, double f_max,
-                                                        bool comprimes, std::optional<int> type_trou = {});
+                                                        bool comprimes,
+                                                        std::optional<qb7_type_trou> type_trou = {});
 
 /// Reinforcing steel: elastic of modulus es up to f_sed, then a line to f_sud at eps_su, the same in
 /// compression or, with `comprimes` false, nothing there. Limit -eps_su in tension, none in compression; hole
