@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <numeric>
 
 namespace {
 
@@ -44,7 +45,8 @@ racines loc_degre_2(std::span<const double> poly) {
     loc_ajouter(r, -x, 1);
     loc_ajouter(r, x, 1);
   } else if ((y0 > 0) != (a > 0)) {
-    // b and the square root are added with one sign, so that nothing cancels; the other root follows from x1 x2 = c/a.
+    // b and the square root are added with one sign, so that nothing cancels; the other root follows from x1
+    // x2 = c/a.
     const double d = b + std::copysign(std::sqrt(b * b - 4 * a * c), b);
     const double x1 = -d / (2 * a);
     const double x2 = -2 * c / d;
@@ -63,7 +65,8 @@ cubique_unitaire loc_poly_normal(std::span<const double> poly) {
   return {poly[2] / poly[3], poly[1] / poly[3], poly[0] / poly[3]};
 }
 
-/// The one real root of t^3 + p t + q where (q/2)^2 + (p/3)^3 = delta > 0: cube roots, of the larger term first.
+/// The one real root of t^3 + p t + q where (q/2)^2 + (p/3)^3 = delta > 0: cube roots, of the larger term
+/// first.
 double int_rac_3(double p, double q, double delta) {
   const double u = -std::copysign(std::cbrt(std::abs(q) / 2 + std::sqrt(delta)), q);
   return u - p / (3 * u);
@@ -122,7 +125,8 @@ double loc_dichotomie(std::span<const double> poly, double a, double b) {
 /// No root is larger in absolute value (Cauchy).
 double loc_borne_des_racines(std::span<const double> poly) {
   double plus_grand = 0;
-  for (const double c : poly.first(poly.size() - 1)) plus_grand = std::max(plus_grand, std::abs(c / poly.back()));
+  for (const double c : poly.first(poly.size() - 1))
+    plus_grand = std::max(plus_grand, std::abs(c / poly.back()));
   return 1 + plus_grand;
 }
 
@@ -151,7 +155,8 @@ racines loc_degre_4(std::span<const double> poly) {
 
 racines loc_racines_reelles(std::span<const double> poly) {
   switch (const auto p = loc_degre_effectif(poly); p.size()) {
-    case 0: case 1: return {};
+    case 0:
+    case 1: return {};
     case 2: return loc_degre_1(p);
     case 3: return loc_degre_2(p);
     case 4: return loc_degre_3(p);

@@ -24,7 +24,8 @@ struct racines {
   int ier = 0;
 };
 
-/// What the roots must satisfy to be kept: bounds are included; impaires keeps the roots where the sign changes.
+/// What the roots must satisfy to be kept: bounds are included; impaires keeps the roots where the sign
+/// changes.
 struct filtre_racines {
   std::optional<double> x_inf = {};
   std::optional<double> x_sup = {};

@@ -21,17 +21,20 @@ struct ligne_pentes {
   double inf = 0, diag = 1, sup = 0, second_membre = 0;
 };
 
-/// Continuity of the second derivative at a free knot, zero second derivative at a free end, imposed slope elsewhere.
+/// Continuity of the second derivative at a free knot, zero second derivative at a free end, imposed slope
+/// elsewhere.
 ligne_pentes loc_ligne(const donnees_spline& s, std::size_t k) {
   if (!s.libre(k)) return {.second_membre = s.yp[k]};
   if (k == 0) return {.diag = 2, .sup = 1, .second_membre = 3 * s.corde(1)};
   if (k == s.dernier()) return {.inf = 1, .diag = 2, .second_membre = 3 * s.corde(k)};
   const double g = 1 / s.dx(k);
   const double d = 1 / s.dx(k + 1);
-  return {.inf = g, .diag = 2 * (g + d), .sup = d, .second_membre = 3 * (s.corde(k) * g + s.corde(k + 1) * d)};
+  return {
+      .inf = g, .diag = 2 * (g + d), .sup = d, .second_membre = 3 * (s.corde(k) * g + s.corde(k + 1) * d)};
 }
 
-/// Slopes of the stretch [deb, fin]: forward elimination yp(k) = alpha(k) yp(k+1) + beta(k), back substitution.
+/// Slopes of the stretch [deb, fin]: forward elimination yp(k) = alpha(k) yp(k+1) + beta(k), back
+/// substitution.
 int loc_resoudre(donnees_spline& s, std::size_t deb, std::size_t fin) {
   std::vector<double> alpha(fin - deb + 1);
   std::vector<double> beta(fin - deb + 1);
@@ -68,7 +71,8 @@ std::array<double, 4> loc_coefficients(double dx, double y0, double y1, double y
 /// The interval of x, from 0; the first or the last one for x outside.
 std::size_t loc_intervalle(const spline_type& s, double x) {
   const auto interieurs = std::span(s.tab_x).subspan(1, s.tab_coeffs.size() - 1);
-  return static_cast<std::size_t>(std::upper_bound(interieurs.begin(), interieurs.end(), x) - interieurs.begin());
+  return static_cast<std::size_t>(std::upper_bound(interieurs.begin(), interieurs.end(), x) -
+                                  interieurs.begin());
 }
 
 }  // namespace
@@ -92,8 +96,10 @@ std::string_view spline_err_message(int ier) {
 int spline_definir(spline_type& spline, std::span<const double> tab_x, std::span<const double> tab_y,
                    std::span<const double> tab_yp) {
   spline_vider(spline);
-  if (tab_x.size() < 2 || tab_y.size() != tab_x.size() || tab_yp.size() != tab_x.size()) return spline_err_dimensions;
-  if (std::adjacent_find(tab_x.begin(), tab_x.end(), [](double a, double b) { return !(a < b); }) != tab_x.end()) {
+  if (tab_x.size() < 2 || tab_y.size() != tab_x.size() || tab_yp.size() != tab_x.size())
+    return spline_err_dimensions;
+  if (std::adjacent_find(tab_x.begin(), tab_x.end(), [](double a, double b) { return !(a < b); }) !=
+      tab_x.end()) {
     return spline_err_abscisses;
   }
   donnees_spline s{tab_x, tab_y, {tab_yp.begin(), tab_yp.end()}};

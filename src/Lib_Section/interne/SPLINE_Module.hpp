@@ -1,13 +1,14 @@
 #pragma once
-// Cubic splines with imposed or free slopes. Where a slope is free the second derivative is continuous, and zero at
-// a free end; where it is imposed the curve is cut in two stretches that share a point and a slope.
+// Cubic splines with imposed or free slopes. Where a slope is free the second derivative is continuous, and
+// zero at a free end; where it is imposed the curve is cut in two stretches that share a point and a slope.
 
 #include <array>
-#include <string_view>
 #include <span>
+#include <string_view>
 #include <vector>
 
-/// Abscissas 0 to n, and for each interval 1 to n the cubic in the local variable x - tab_x(k - 1), from degree 0 up.
+/// Abscissas 0 to n, and for each interval 1 to n the cubic in the local variable x - tab_x(k - 1), from
+/// degree 0 up.
 struct spline_type {
   std::vector<double> tab_x;
   std::vector<std::array<double, 4>> tab_coeffs;
@@ -31,9 +32,10 @@ constexpr int spline_err_ordonnee_incorrecte = 4110090;
 std::string_view spline_err_message(int ier);
 
 /// Spline through (tab_x, tab_y) with the slopes tab_yp. On failure the spline is left empty.
-/// 4110010: sizes differ, or fewer than two points; 4110020: abscissas that do not increase; 4110050: zero pivot.
-[[nodiscard]] int spline_definir(spline_type& spline, std::span<const double> tab_x, std::span<const double> tab_y,
-                                 std::span<const double> tab_yp);
+/// 4110010: sizes differ, or fewer than two points; 4110020: abscissas that do not increase; 4110050: zero
+/// pivot.
+[[nodiscard]] int spline_definir(spline_type& spline, std::span<const double> tab_x,
+                                 std::span<const double> tab_y, std::span<const double> tab_yp);
 
 void spline_vider(spline_type& spline);
 
