@@ -1,4 +1,3 @@
-#pragma once
 // Stress-strain laws: the builders that turn the parameters of a material into the one form that the engine
 // integrates, a table of polynomials of the strain, of degree 3 at most, with two limits and a hole type.
 //
@@ -10,6 +9,7 @@
 // Every builder creates the law (num_materiau, num_etat_lim), checks its arguments before it creates
 // anything, and journals a failure under its own name. ERR_LOI_EXISTE, ERR_DEF_LOI and their like come from
 // the store as they are.
+#pragma once
 
 #include <optional>
 #include <span>

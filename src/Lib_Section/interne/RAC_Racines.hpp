@@ -1,6 +1,6 @@
-#pragma once
 // Real roots of a polynomial, by closed formulas up to degree 3 and between the extremums above it.
 // A polynomial is the list of its coefficients from degree 0 up; zero coefficients at the end do not count.
+#pragma once
 
 #include <array>
 #include <cstddef>

@@ -1,6 +1,6 @@
-#pragma once
 // Cubic splines with imposed or free slopes. Where a slope is free the second derivative is continuous, and
 // zero at a free end; where it is imposed the curve is cut in two stretches that share a point and a slope.
+#pragma once
 
 #include <array>
 #include <span>
