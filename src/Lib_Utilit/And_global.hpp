@@ -1,0 +1,134 @@
+// Shared state of the data analyser: the current term, the queues of terms, modes and channels.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+
+#include "Lex_analex.hpp"
+#include "Systeme.hpp"
+#include "Texte.hpp"
+
+/// Type of a term.
+enum class type_terme : int {
+  aucun = 0,
+  entier = 1,
+  reel_s = 2,
+  reel_d = 3,
+  nom = 4,
+  chaine = 5,
+  delimiteur = 6,  // line end or ";"
+  fin_fichier = 7,
+  operateur = 8,
+  erreur_lexicale = 9,
+  erreur_syntaxe = 10,
+  erreur_lecture = 11,   // read error on the data file
+  erreur_capacite = 12,  // a queue is full
+  tete_repetition = 13,  // in queues only: n copies of the value behind it
+  tete_increment = 14,   // in queues only: the n + 1 values of a series, current value and step behind it
+  fin_file = 15          // TYPE_FIN_FILE: the queue is empty
+};
+
+/// Class of a term: 1 operand, 2 end of a phrase, 3 operator or head, 4 error, 5 end of a queue; by type,
+/// from 1.
+inline constexpr std::array<int, 16> and_classe_terme{0, 1, 1, 1, 1, 1, 2, 2, 3, 4, 4, 4, 4, 3, 3, 5};
+/// 16 numeric, 4 name, 5 string, 17 all others; by type, from 1.
+inline constexpr std::array<int, 16> and_type_operande{17, 16, 16, 16, 4,  5,  17, 17,
+                                                       17, 17, 17, 17, 17, 17, 17, 17};
+
+/// Operators, numbered from 1 in this order; the four words are operators in any case.
+inline constexpr std::array<std::string_view, 17> and_liste_operateurs{
+    "+", "-", "*", "(", ")", "**", "/", ",", ".", ":", "<", ">", "=", "A", "REP", "INC", "DIV"};
+inline constexpr int and_operateur_plus = 1;
+inline constexpr int and_operateur_moins = 2;
+inline constexpr int and_operateur_a = 14;      // the first of the four words
+inline constexpr int and_operateur_autre = 22;  // any other special character
+
+inline constexpr int and_lg_chaine = 201;  // the longest term
+inline constexpr int and_nb_files_par_classe = 10;
+inline constexpr int and_nb_termes_total = 166109;  // of all queues
+inline constexpr int and_nb_caracteres_total = 664436;
+inline constexpr int and_lg_message = 80;
+
+/// A term: what all layers pass on.
+struct and_terme_t {
+  type_terme and_type_terme = type_terme::aucun;
+  int and_var_entier_ou_operateur = 0;         // integer, number of an operator, error code
+  float and_var_reel = 0.0F;                   // type 2
+  double and_var_reel_d = 0.0;                 // type 3
+  socle::texte<and_lg_chaine> and_var_chaine;  // text of the term as read, or a message
+  int and_lg_terme = 0;                        // its length; 0: a computed number that has no text yet
+};
+
+/// Control record of a queue. It is a ring: places run from 1 to `capacite` and wrap round.
+struct and_controle_file_t {
+  int tete = 1;      // place of the first term
+  int queue = 0;     // place of the last term
+  int capacite = 0;  // in terms
+  int nombre = 0;    // of terms
+  int position_lecture =
+      -1;  // rank, from 1 at the head, of the next term to consult; -1: no reading in progress
+  int capacite_caracteres = 0;
+  int nb_caracteres = 0;  // used
+  int etat = 1;           // 1 normal, 2 a re-read is pending
+};
+
+/// Reading operation at work, for its message when the term is refused.
+enum class and_operation : int { terme = 1, entier = 2, reel_d = 4, nom = 5, chaine = 6, delimiteur = 7 };
+
+/// How far the announcement of an error has gone.
+enum class and_indicateur : int {
+  aucun = 0,
+  commande = 1,
+  lecture = 2,
+  unite = 3,
+  fin_fichier = 4,
+  general = 5
+};
+
+/// The shared arrays that hold the terms of all queues. Not initialised: a place is written before it is
+/// read.
+struct and_stock_t {
+  std::unique_ptr<int[]>
+      and_files_types;  // NOLINT(modernize-avoid-c-arrays): 3 a term: type, start of its text, length
+  std::unique_ptr<int[]> and_files_entiers;   // NOLINT(modernize-avoid-c-arrays)
+  std::unique_ptr<double[]> and_files_reels;  // NOLINT(modernize-avoid-c-arrays)
+  std::unique_ptr<char[]> and_files_chaines;  // NOLINT(modernize-avoid-c-arrays)
+};
+
+struct and_global_t : and_terme_t {
+  // Modes and channels, set by the driver.
+  bool and_mode_phrase = true;              // a logical unit ends at a delimiter only
+  bool and_mode_dequoter = true;            // strings arrive without their quotes
+  bool and_mode_delimiteur = false;         // line ends and ";" are served
+  int and_mode_echo_donnees_analysees = 1;  // 1: a leading blank; 3: none
+  int and_lg_envoi_echo = 80;               // longest line of the echo; 0: no echo
+  socle::sortie* and_unite_echo_donnees_analysees = nullptr;
+  socle::sortie* and_unite_echo_donnees_analysees_bis = nullptr;
+  socle::sortie* and_unite_echo_messages = nullptr;
+
+  and_indicateur and_indicateur_erreur_donnee = and_indicateur::aucun;
+  and_operation and_numero_operation = and_operation::terme;
+  socle::texte<and_lg_message> and_message;
+  socle::texte<200> and_ligne_analysee;  // a line of the echo
+  int and_niveau_erreur = 0;
+  int and_position_erreur = 0;
+  int and_nb_niveaux = 1;
+  int and_nb_variables = 0;
+  int and_debut_echo = 1;
+  int and_lg_echo = 0;
+
+  // Queues, by class (1 to 3) and number (1 to 10).
+  std::array<std::array<and_controle_file_t, and_nb_files_par_classe>, 3> and_controle_files{};
+  std::array<std::array<int, and_nb_files_par_classe>, 3> and_debuts_files{};  // first place of each, from 0
+  std::array<std::array<int, and_nb_files_par_classe>, 3>
+      and_debuts_chaines{};  // first character of each, from 0
+  and_stock_t and_stock;
+
+  // Reading of the input itself (class 0).
+  and_terme_t and_dernier_terme_lu;     // last term taken from the data file
+  int and_file_dernier_terme = 0;       // PREFILE that holds it; 0: none does
+  bool and_relecture_demandee = false;  // it will be served again
+};
+extern and_global_t and_global;
+void and_global_reinitialiser();

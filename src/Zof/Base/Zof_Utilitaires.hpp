@@ -1,0 +1,9 @@
+// The end of a block of commands.
+#pragma once
+
+#include "Texte.hpp"
+
+/// After a handler's loop has ended on a word: reads that word again in up to 8 letters and wants it to be
+/// this one. Any other word ends the run with status 1, the notes left open. Resets the error flag of the
+/// reader: a handler that met an error returns before it.
+void zof_controle_mot_fin(const socle::texte<8>& mot_attendu);
