@@ -14,3 +14,8 @@ void zof_controle_mot_fin(const socle::texte<8>& mot_attendu) {
       {"     - ", mot.entier(), "Incorrect dans ce contexte - Attendu : ", mot_attendu.utile()}));
   zof_arret();
 }
+
+void zof_decoder_titre(socle::texte<80>& titre, bool& erco) {
+  int longueur = 0;
+  and_lire_chaine(titre, 80, longueur, erco);
+}

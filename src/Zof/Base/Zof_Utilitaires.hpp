@@ -1,4 +1,4 @@
-// The end of a block of commands.
+// What the blocks of all commands share: their title, their end.
 #pragma once
 
 #include "Texte.hpp"
@@ -7,3 +7,6 @@
 /// this one. Any other word ends the run with status 1, the notes left open. Resets the error flag of the
 /// reader: a handler that met an error returns before it.
 void zof_controle_mot_fin(const socle::texte<8>& mot_attendu);
+
+/// A title: one string of at most 80 characters.
+void zof_decoder_titre(socle::texte<80>& titre, bool& erco);
