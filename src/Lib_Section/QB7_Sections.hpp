@@ -199,7 +199,7 @@ ier_2 qb7_deformation_materiau(int num_materiau, int num_etat_lim, double sigma,
 ier_2 qb7_tendre_cable(int num_section, int num_etat_lim, bool prec_iso_incluse,
                        std::span<const int> num_zones_cables, std::span<const double> tab_sigma);
 
-/// All six values of the history to 0: a cable that carries its law from the section's strain on, unbonded.
+/// All six values of the history to 0: the cable then follows the law of its material as it is.
 ier_2 qb7_reinitialiser_cable(int num_section, std::span<const int> num_zones_cables);
 
 /// Bonds a cable under the plane deform_section, rho_cable of the section's strain: the EC method, and the
@@ -228,10 +228,20 @@ ier_2 qb7_deformation_point_zone(int num_section, int num_zone, double y, double
                                  const deformation& deform_section, qb7_deformation_point& resultat);
 
 /// Stress at the strain `epsilon` of the routine above, and its change. ERR_EPSILON_MIN, ERR_EPSILON_MAX
-/// (zone): a limit of the law is passed; the stresses are given all the same. controle_bornes false: the code
-/// is given and nothing is journalled.
+/// (zone): a limit of the law is passed. With controle_bornes false that is told by the code alone: the
+/// stresses stand and nothing is journalled.
 ier_2 qb7_contrainte_point_zone(int num_section, int num_zone, int num_etat_lim, double epsilon,
                                 double& sigma, double& delta_sigma, bool controle_bornes = true);
+
+/// A point of a creeping zone under a permanent and then a final plane; strains and stresses are 0 in a zone
+/// that does not creep, creep and permanent stress are 0 where the permanent plane does not compress the
+/// point.
+struct qb7_etat_fluage {
+  double epsilon_permanent = 0, epsilon_final = 0, epsilon_fluage = 0, sigma_permanent = 0, sigma_final = 0;
+};
+ier_2 qb7_etat_point_zone_fluage(int num_section, int num_zone, int num_etat_lim, double coefficient_fluage,
+                                 double y, double z, const deformation& deform_permanent_section,
+                                 const deformation& deform_final_section, qb7_etat_fluage& resultat);
 
 // ---- Geometry and mechanics ----
 

@@ -50,7 +50,8 @@ class gbd_liste {
     m_curseur = lst_rang(clef);
     return lst_clef_est(m_curseur, clef) ? lst_actuel() : nullptr;
   }
-  const elt_t* lst_consulter_elt(const clef_t& clef) const {
+  /// The same with the cursor left where it is, for look-ups inside a walk.
+  elt_t* lst_consulter_elt(const clef_t& clef) const {
     const std::size_t rang = lst_rang(clef);
     return lst_clef_est(rang, clef) ? m_elements[rang].get() : nullptr;
   }
