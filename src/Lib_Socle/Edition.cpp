@@ -104,6 +104,30 @@ std::string edite(E f, double v) {
 std::string edite(G f, double v) { return loc_edite_g(f, v); }
 std::string edite(G f, float v) { return loc_edite_g(f, v); }
 
+std::optional<format> lire_format(vue_l1 descripteur) {
+  std::string_view v = sans_blancs_initiaux(sans_blancs_finals(descripteur.octets()));
+  if (v.starts_with('(') && v.ends_with(')')) v = sans_blancs_initiaux(v.substr(1, v.size() - 2));
+  if (v.empty()) return std::nullopt;
+  const char lettre = v.front() >= 'a' ? static_cast<char>(v.front() - 'a' + 'A') : v.front();
+  if (std::string_view("FEDG").find(lettre) == std::string_view::npos) return std::nullopt;
+  format f{lettre, 0, 0};
+  const char* const fin = v.data() + v.size();
+  const auto largeur = std::from_chars(v.data() + 1, fin, f.largeur);
+  if (largeur.ec != std::errc{} || largeur.ptr == fin || *largeur.ptr != '.') return std::nullopt;
+  const auto decimales = std::from_chars(largeur.ptr + 1, fin, f.decimales);
+  if (decimales.ec != std::errc{} || decimales.ptr != fin) return std::nullopt;
+  if (f.largeur < 1 || f.largeur > 64 || f.decimales < 0 || f.decimales > 40) return std::nullopt;
+  return f;
+}
+
+std::string edite(const format& f, double v) {
+  switch (f.lettre) {
+    case 'F': return edite(F{f.largeur, f.decimales}, v);
+    case 'G': return edite(G{f.largeur, f.decimales}, v);
+    default: return edite(E{f.largeur, f.decimales, f.lettre}, v);
+  }
+}
+
 std::string ajuste_gauche(std::string v) {
   const std::size_t n = std::min(v.find_first_not_of(' '), v.size());
   std::rotate(v.begin(), v.begin() + static_cast<std::ptrdiff_t>(n), v.end());

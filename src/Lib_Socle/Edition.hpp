@@ -3,7 +3,10 @@
 // an exponent of three digits pushes out its letter.
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "Texte.hpp"
 
 namespace socle {
 
@@ -27,6 +30,16 @@ std::string edite(E f, double v);
 std::string edite(G f, double v);
 /// A single chooses its form by thresholds in single precision.
 std::string edite(G f, float v);
+
+/// An edit descriptor that is known at run time: F, E, D or G, its width and its decimals.
+struct format {
+  char lettre;
+  int largeur, decimales;
+};
+/// Reads "(F8.3)", with or without brackets, in either case. Nothing if it is none of the four forms, or if
+/// its width isn't from 1 to 64 or its decimals from 0 to 40.
+std::optional<format> lire_format(vue_l1 descripteur);
+std::string edite(const format& f, double v);
 
 /// The text with its leading blanks moved to the end.
 std::string ajuste_gauche(std::string v);

@@ -5,6 +5,7 @@
 // A note that is off, or that has no channel, receives nothing: a caller never asks whether a note is wanted.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 
@@ -35,6 +36,8 @@ struct utl_02_t {
   int glb_listes_html = 0;    // lists that are open in the HTML note
   socle::texte<300> glb_titre;
   socle::texte<300> glb_sous_titre;
+  // Titles of each level since the last one of a level above.
+  std::array<int, glb_profondeur_sommaire_max + 1> glb_compteurs{};
   utl_01_type_sommaire utl_str_sommaire;
   std::string tampon;  // an item is composed here and goes out in one piece
 };
