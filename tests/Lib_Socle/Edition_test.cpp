@@ -61,3 +61,20 @@ TEST(Edition, AjusteGaucheDeplaceLesBlancs) {
   EXPECT_EQ(ajuste_gauche("    "), "    ");
   EXPECT_EQ(ajuste_gauche(""), "");
 }
+
+TEST(Edition, UnDescripteurSeLitEtSEdite) {
+  for (const char* const d : {"F8.3", "(f8.3)", " ( F8.3)"}) {
+    const auto f = lire_format(std::string_view(d));
+    ASSERT_TRUE(f.has_value()) << d;
+    EXPECT_EQ(edite(*f, 1.5), "   1.500");
+  }
+  EXPECT_EQ(edite(*lire_format("(E12.4)"), 1.5), "  0.1500E+01");
+  EXPECT_EQ(edite(*lire_format("(D12.4)"), 1.5), "  0.1500D+01");
+  EXPECT_EQ(edite(*lire_format("(G12.4)"), 1.5), "   1.500    ");
+}
+
+TEST(Edition, CeQuiNEstPasUnDescripteurEstRefuse) {
+  for (const char* const d :
+       {"", "()", "(F8.3", "F8", "F8.", "F.3", "I5", "F8.3x", "F-8.3", "F0.3", "F65.3", "F8.-1", "F8.41"})
+    EXPECT_FALSE(lire_format(std::string_view(d)).has_value()) << d;
+}

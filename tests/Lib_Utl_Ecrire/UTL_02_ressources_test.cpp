@@ -1,0 +1,63 @@
+// Where the styles and the script of the HTML note are searched.
+#include "UTL_02_ressources.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Outils.hpp"
+
+using namespace socle;
+using ::testing::ElementsAre;
+using ::testing::Optional;
+
+namespace {
+
+class Ressources : public ::testing::Test {
+ protected:
+  systeme_memoire machine;
+  systeme_en_place en_place{machine};
+};
+
+}  // namespace
+
+TEST_F(Ressources, LesRepertoiresSontEssayesDansLeurOrdre) {
+  machine.fichiers["Chemin_appli.txt"] = "/appli\nautre\n";
+  machine.fichiers["/appli/a.css"] = "appli";
+  EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("appli")));
+  machine.fichiers["/programme/a.css"] = "programme";
+  EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("programme")));
+  machine.fichiers["a.css"] = "courant";
+  EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("courant")));
+  machine.fichiers["../exe/a.css"] = "exe";
+  EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("exe")));
+}
+
+TEST_F(Ressources, UnFichierAbsentEstAbsent) {
+  EXPECT_EQ(utl_02_lire_ressource("a.css"), std::nullopt);
+  machine.fichiers["Chemin_appli.txt"] = "";
+  EXPECT_EQ(utl_02_lire_ressource("a.css"), std::nullopt);
+  machine.fichiers["Chemin_appli.txt"] = "   \n";
+  EXPECT_EQ(utl_02_lire_ressource("a.css"), std::nullopt);
+  machine.fichiers["Chemin_appli.txt"] = "nulle_part\n";
+  EXPECT_EQ(utl_02_lire_ressource("a.css"), std::nullopt);
+  EXPECT_EQ(machine.texte_console, "");
+}
+
+TEST_F(Ressources, LeCheminDeLApplicationPeutFinirParUnSeparateur) {
+  machine.fichiers["d/e/a.css"] = "x";
+  for (const char* const chemin : {"d/e", "d/e/", "d\\e\\  ", "d\\e\r"}) {
+    machine.fichiers["/programme/Chemin_appli.txt"] = chemin;
+    EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("x"))) << chemin;
+  }
+}
+
+TEST_F(Ressources, LesLignesSontCopieesSansRetourChariot) {
+  machine.fichiers["a.css"] = "a {\r\n\r\n}";
+  EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("a {", "", "}")));
+}
+
+TEST_F(Ressources, UneLectureFautiveGardeCeQuiAEteLu) {
+  machine.fichiers["a.css"] = "un\ndeux\n";
+  machine.lectures_fautives["a.css"] = 1;
+  EXPECT_THAT(utl_02_lire_ressource("a.css"), Optional(ElementsAre("un")));
+}
