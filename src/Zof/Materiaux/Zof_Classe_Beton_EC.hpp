@@ -95,4 +95,7 @@ struct zof_beton_ec {
   virtual double deformation_retrait_beton_normal() const;
   /// Specific creep phi / (1.05 Ecm), per MPa: 1 + coefficient x modulus has no unit.
   virtual double coefficient_fluage() const;
+
+  /// Under two days the formulas say nothing; an age that is not given is infinite.
+  bool age_etude_admis() const;
 };

@@ -31,6 +31,10 @@ inline constexpr int type_loi_lineaire_equivalente = 5;
 inline constexpr std::array<socle::texte<18>, 5> zof_par_type_loi_materiau = {
     "LINEAIRE", "BILINEAIRE", "PARABOLE", "PLASTIQUE PARFAITE", "LINEAIRE EQUIVALE."};
 
+/// Exposure classes in the order of their numbers, from 1.
+inline constexpr std::array<socle::texte<4>, 15> zof_par_classe_exposition = {
+    "X0", "XD1", "XD2", "XD3", "XC1", "XC2", "XC3", "XC4", "XS1", "XS2", "XS3", "XF1", "XF2", "XF3", "XF4"};
+
 struct zof_materiau : uef_vector_element {
   socle::texte<80> m_titre_materiau = socle::non_renseigne;
   socle::texte<32> m_nom_materiau = socle::non_renseigne;

@@ -1,14 +1,8 @@
 #pragma once
 // Concrete to EN 1992-1-1: what a block MATE BETO says of it.
 
-#include <array>
-
 #include "Zof_Classe_Beton.hpp"
 #include "Zof_Classe_Situation_Beton_EC.hpp"
-
-/// Exposure classes in the order of their numbers, from 1.
-inline constexpr std::array<socle::texte<4>, 15> zof_par_classe_exposition = {
-    "X0", "XD1", "XD2", "XD3", "XC1", "XC2", "XC3", "XC4", "XS1", "XS2", "XS3", "XF1", "XF2", "XF3", "XF4"};
 
 struct zof_materiau_beton_ec : uef_element<zof_materiau_beton_ec, zof_beton> {
   int m_type_ciment = ciment_n;
