@@ -2,8 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <memory>
-#include <string>
+#include <string_view>
 
 #include "Lex_analex.hpp"
 #include "Systeme.hpp"
@@ -30,11 +31,14 @@ enum class type_terme : int {
 };
 
 /// Class of a term: 1 operand, 2 end of a phrase, 3 operator or head, 4 error, 5 end of a queue; by type,
-/// from 1.
+/// from 0.
 inline constexpr std::array<int, 16> and_classe_terme{0, 1, 1, 1, 1, 1, 2, 2, 3, 4, 4, 4, 4, 3, 3, 5};
-/// 16 numeric, 4 name, 5 string, 17 all others; by type, from 1.
+constexpr int and_classe(type_terme type) { return and_classe_terme[static_cast<std::size_t>(type)]; }
+
+/// Kind of an operand: 16 numeric, 4 name, 5 string, 17 all other terms; by type, from 0.
 inline constexpr std::array<int, 16> and_type_operande{17, 16, 16, 16, 4,  5,  17, 17,
                                                        17, 17, 17, 17, 17, 17, 17, 17};
+constexpr int and_operande(type_terme type) { return and_type_operande[static_cast<std::size_t>(type)]; }
 
 /// Operators, numbered from 1 in this order; the four words are operators in any case.
 inline constexpr std::array<std::string_view, 17> and_liste_operateurs{
@@ -62,12 +66,11 @@ struct and_terme_t {
 
 /// Control record of a queue. It is a ring: places run from 1 to `capacite` and wrap round.
 struct and_controle_file_t {
-  int tete = 1;      // place of the first term
-  int queue = 0;     // place of the last term
-  int capacite = 0;  // in terms
-  int nombre = 0;    // of terms
-  int position_lecture =
-      -1;  // rank, from 1 at the head, of the next term to consult; -1: no reading in progress
+  int tete = 1;               // place of the first term
+  int queue = 0;              // place of the last term
+  int capacite = 0;           // in terms
+  int nombre = 0;             // of terms
+  int position_lecture = -1;  // rank of the next term to consult, 1 at the head; -1: no reading
   int capacite_caracteres = 0;
   int nb_caracteres = 0;  // used
   int etat = 1;           // 1 normal, 2 a re-read is pending
@@ -86,18 +89,18 @@ enum class and_indicateur : int {
   general = 5
 };
 
-/// The shared arrays that hold the terms of all queues. Not initialised: a place is written before it is
-/// read.
+/// The shared arrays that hold the terms of all queues. Their pages are taken as they are used: nothing is
+/// initialised, and a place is written before it is read.
 struct and_stock_t {
   std::unique_ptr<int[]>
-      and_files_types;  // NOLINT(modernize-avoid-c-arrays): 3 a term: type, start of its text, length
-  std::unique_ptr<int[]> and_files_entiers;   // NOLINT(modernize-avoid-c-arrays)
-  std::unique_ptr<double[]> and_files_reels;  // NOLINT(modernize-avoid-c-arrays)
-  std::unique_ptr<char[]> and_files_chaines;  // NOLINT(modernize-avoid-c-arrays)
+      and_files_types;  // 3 a term: type, start of its text in the queue, length of the text
+  std::unique_ptr<int[]> and_files_entiers;
+  std::unique_ptr<double[]> and_files_reels;
+  std::unique_ptr<char[]> and_files_chaines;
 };
 
-struct and_global_t : and_terme_t {
-  // Modes and channels, set by the driver.
+/// Modes and channels, set by the driver; they outlive an error of the data.
+struct and_modes_t {
   bool and_mode_phrase = true;              // a logical unit ends at a delimiter only
   bool and_mode_dequoter = true;            // strings arrive without their quotes
   bool and_mode_delimiteur = false;         // line ends and ";" are served
@@ -106,7 +109,12 @@ struct and_global_t : and_terme_t {
   socle::sortie* and_unite_echo_donnees_analysees = nullptr;
   socle::sortie* and_unite_echo_donnees_analysees_bis = nullptr;
   socle::sortie* and_unite_echo_messages = nullptr;
+};
 
+template <class T>
+using and_table_files = std::array<std::array<T, and_nb_files_par_classe>, 3>;
+
+struct and_global_t : and_terme_t, and_modes_t {
   and_indicateur and_indicateur_erreur_donnee = and_indicateur::aucun;
   and_operation and_numero_operation = and_operation::terme;
   socle::texte<and_lg_message> and_message;
@@ -118,11 +126,11 @@ struct and_global_t : and_terme_t {
   int and_debut_echo = 1;
   int and_lg_echo = 0;
 
-  // Queues, by class (1 to 3) and number (1 to 10).
-  std::array<std::array<and_controle_file_t, and_nb_files_par_classe>, 3> and_controle_files{};
-  std::array<std::array<int, and_nb_files_par_classe>, 3> and_debuts_files{};  // first place of each, from 0
-  std::array<std::array<int, and_nb_files_par_classe>, 3>
-      and_debuts_chaines{};  // first character of each, from 0
+  // Queues, by class and number, both from 0; where the terms and characters of each start in the shared
+  // arrays.
+  and_table_files<and_controle_file_t> and_controle_files{};
+  and_table_files<int> and_debuts_files{};
+  and_table_files<int> and_debuts_chaines{};
   and_stock_t and_stock;
 
   // Reading of the input itself (class 0).

@@ -1,11 +1,10 @@
 // Texts of numbers into numbers, and upper case.
 #pragma once
 
-#include <string>
+#include <span>
 #include <string_view>
 
-/// Integer of at most 10 digits, with an optional sign. `erreur`: empty, a character that is no digit, beyond
-/// 2147483647.
+/// Integer with an optional sign. `erreur`: empty, a character that is no digit, a value beyond 2147483647.
 void lxs_decodage_entier(std::string_view zone, int& entier, bool& erreur);
 
 /// Single: digits, at most one point, an optional exponent. The value is worked out in double as digits times
@@ -21,5 +20,7 @@ constexpr char lxs_c_majuscule(char c_in) {
   return c_in >= 'a' && c_in <= 'z' ? static_cast<char>(c_in - 'a' + 'A') : c_in;
 }
 
-/// Upper case of a text, ASCII letters only.
-std::string lxs_z_majuscule(std::string_view zone);
+/// Upper case in place, ASCII letters only.
+constexpr void lxs_z_majuscule(std::span<char> zone) {
+  for (char& c : zone) c = lxs_c_majuscule(c);
+}
