@@ -198,6 +198,11 @@ bool zof_est_section_precontrainte(const texte<32>& nom_section) {
   return zof_get_nombre_type_zone_section(nom_section, nature_zone::precontrainte) > 0;
 }
 
+// No material has these strengths as long as MATE reads no prestressing steel.
+std::optional<double> zof_contrainte_limite_precontrainte_section(const texte<32>&, const texte<32>&) {
+  return {};
+}
+
 void zof_declarer_aciers_passifs_dimensionnables_section(const texte<32>& nom_section) {
   for (const zof_zone* const zone : zof_lister_zones_section(nom_section)) {
     const auto* const barres = dynamic_cast<const zof_ferraillage*>(zone);
