@@ -35,7 +35,7 @@ TEST(Programme, UnFichierMinimalDonneDeuxNotesFermees) {
   EXPECT_THAT(c.console, StartsWith("Version de ZOF : 7.06"));
   EXPECT_THAT(c.console, EndsWith("FIN DE L EXECUTION\n"));
   EXPECT_THAT(c.listing, EndsWith(" \n \nExecution de Zof terminee\n"));
-  EXPECT_THAT(c.listing, StartsWith("ZOF\nFIN_\n"));
+  EXPECT_THAT(c.listing, StartsWith("ZOF "));
   EXPECT_THAT(c.txt, HasSubstr("1. ZOF - Note de calcul"));
   EXPECT_THAT(c.html, HasSubstr("Calcul ZOF version 7.06"));
   EXPECT_TRUE(loc_note_fermee(c));
@@ -75,7 +75,8 @@ TEST(Programme, QuatreCaracteresSontRetiresQuelsQuIlsSoient) {
 TEST(Programme, SansArgumentLeFichierEstPointZof) {
   systeme_memoire machine;
   EXPECT_EQ(loc_lancer(machine, {}), 1);
-  EXPECT_EQ(machine.texte_console, std::string(" ERREUR : ouverture du fichier de données impossible:.zof\n"_l1));
+  EXPECT_EQ(machine.texte_console,
+            std::string(" ERREUR : ouverture du fichier de données impossible:.zof\n"_l1));
   machine.fichiers[".zof"] = "ZOF\nFIN_\n";
   EXPECT_EQ(loc_lancer(machine, {"abc"}), 0);
 }
@@ -105,7 +106,9 @@ TEST(Programme, ChaqueOuvertureManqueeASonMessage) {
     EXPECT_EQ(loc_lancer(machine, {"a.zof"}), 1) << fichier;
     EXPECT_EQ(machine.texte_console, message);
     EXPECT_TRUE(machine.fichiers["a.txt"].empty());
-    if (fichier == "a.txt" || fichier == "a.html") EXPECT_EQ(machine.fichiers["a.err"], message);
+    // The listing holds the messages from the moment when it is open.
+    const bool listing_ouvert = fichier == "a.txt" || fichier == "a.html";
+    EXPECT_EQ(machine.fichiers["a.err"], listing_ouvert ? message : std::string());
   }
 }
 
@@ -130,15 +133,18 @@ TEST(Programme, LaCasseEtLaFinDesMotsNeComptentPas) {
 TEST(Programme, UnMotInconnuTermineLaCourse) {
   const course c = executer("ZOF\nFOOB\nTITR 'apres'\nFIN_\n");
   EXPECT_EQ(c.statut, 1);
-  EXPECT_THAT(c.console, HasSubstr("Erreur de commande : \n     -  Mot clef  FOOB incorrect dans ce contexte\n"));
-  EXPECT_THAT(c.listing, HasSubstr("Erreur de commande : \n     -  Mot clef  FOOB incorrect dans ce contexte\n"));
+  EXPECT_THAT(c.console,
+              HasSubstr("Erreur de commande : \n     -  Mot clef  FOOB incorrect dans ce contexte\n"));
+  EXPECT_THAT(c.listing,
+              HasSubstr("Erreur de commande : \n     -  Mot clef  FOOB incorrect dans ce contexte\n"));
   EXPECT_THAT(c.console, Not(HasSubstr("apres")));
   EXPECT_THAT(c.listing, Not(HasSubstr("terminee")));
   EXPECT_TRUE(loc_note_fermee(c));
 }
 
 TEST(Programme, UnMotCourtEstMontreSurQuatreCaracteres) {
-  EXPECT_THAT(executer("ZOF\nABC\n").console, HasSubstr("     -  Mot clef  ABC  incorrect dans ce contexte\n"));
+  EXPECT_THAT(executer("ZOF\nABC\n").console,
+              HasSubstr("     -  Mot clef  ABC  incorrect dans ce contexte\n"));
 }
 
 TEST(Programme, LaFinPrematureeDuFichierLaisseLesNotesOuvertes) {
@@ -152,7 +158,7 @@ TEST(Programme, LaFinPrematureeDuFichierLaisseLesNotesOuvertes) {
 }
 
 TEST(Programme, OptionsAvantLePremierMateriau) {
-  const course c = executer("ZOF\nMATE ACIER A TITR 'a' FYK 500. TYPE T_B FIN_MATE\nOPTI POND\nFIN_\n");
+  const course c = executer("ZOF\nMATE ACIER S500 TITR 'a' FYK 500. TYPE T_B FIN_MATE\nOPTI POND\nFIN_\n");
   EXPECT_EQ(c.statut, 1);
   EXPECT_THAT(c.console, HasSubstr(" Mot clef  OPTI incorrect dans ce contexte"));
 }
@@ -176,7 +182,8 @@ TEST(Programme, OptionRetoRegardeLeMotSuivant) {
 }
 
 TEST(Programme, EditerVeutUnMotConnu) {
-  EXPECT_THAT(executer("ZOF\nEDIT AUTR\nFIN_\n").console, HasSubstr(" Mot clef  AUTR incorrect dans ce contexte"));
+  EXPECT_THAT(executer("ZOF\nEDIT AUTR\nFIN_\n").console,
+              HasSubstr(" Mot clef  AUTR incorrect dans ce contexte"));
 }
 
 TEST(Programme, LeTitreAQuatreVingtsCaracteresAuPlus) {

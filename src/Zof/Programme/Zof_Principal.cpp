@@ -36,9 +36,12 @@ struct fichiers_de_course {
 
 std::string loc_version() { return edite(F{4, 2}, version_zof); }
 
-/// Name of the data file from the arguments: -v prints the version first, and without a second argument ends the run.
+/// Name of the data file from the arguments: -v prints the version first, and without a second argument ends
+/// the run.
 texte<266> zof_execution(std::span<const std::string_view> arguments) {
-  const auto argument = [&](std::size_t i) { return i < arguments.size() ? arguments[i] : std::string_view{}; };
+  const auto argument = [&](std::size_t i) {
+    return i < arguments.size() ? arguments[i] : std::string_view{};
+  };
   if (sans_blancs_finals(argument(0)) != "-v") return argument(0);
   le_systeme().console().ligne(loc_version());
   if (sans_blancs_finals(argument(1)).empty()) arreter(0);
@@ -82,7 +85,8 @@ void loc_ouvrir(fichiers_de_course& fichiers) {
   if (!fichiers.ndc_html) loc_refuser_ouverture(" ERREUR : ouverture du fichier NDC html impossible");
 }
 
-/// The data are echoed line by line on the console as read, and phrase by phrase in the listing as understood.
+/// The data are echoed line by line on the console as read, and phrase by phrase in the listing as
+/// understood.
 void loc_regler_lecteur(const fichiers_de_course& fichiers) {
   sortie* const console = &le_systeme().console();
   and_global.and_unite_echo_messages = console;
@@ -114,7 +118,7 @@ void zof_editer_entete_ndc(const fichiers_de_course& fichiers) {
                       .opt_ecrire_sommaire = false,
                       .opt_ecrire_sommaire_dynam = true,
                       .opt_profondeur_sommaire_voulue = 10,
-                      .opt_langue_entete = "fr"});
+                      .opt_langue_entete = vue_l1("fr")});
   const std::string titre = concat({"Calcul ZOF", phrase_version.utile()});
   utl_02_ecrire_entete(1, {.opt_titre = titre, .opt_sous_titre = "Note de calcul"});
   utl_02_ecrire_titre("ZOF - Note de calcul", 1);

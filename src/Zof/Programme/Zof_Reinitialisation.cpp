@@ -3,13 +3,12 @@
 #include "And_global.hpp"
 #include "Lex_analex.hpp"
 #include "QB7_ERR_Erreurs.hpp"
+#include "QB7_PAR_Parametres.hpp"
 #include "QB7_Sections.hpp"
 #include "UTL_02_Ecriture_Resu.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
-#include "Zof_Gestion_Sollicitations.hpp"
-#include "Zof_Gestion_justifications.hpp"
 #include "Zof_Options.hpp"
 
 void zof_reinitialiser() {
@@ -17,10 +16,10 @@ void zof_reinitialiser() {
   and_global_reinitialiser();
   zof_erreurs_reinitialiser();
   utl_02_reinitialiser();
-  qb7_reinitialiser();
+  qb7_quitter();
+  qb7_par_reinitialiser();
+  qb7_err_reinitialiser();
   zof_options_reinitialiser();
-  zof_gestion_materiau_reinitialiser();
-  zof_gestion_section_reinitialiser();
-  zof_gestion_sollicitations_reinitialiser();
-  zof_gestion_justifications_reinitialiser();
+  gestion_materiau_reinitialiser();
+  gestion_section_reinitialiser();
 }
