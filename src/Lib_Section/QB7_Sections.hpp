@@ -210,7 +210,7 @@ ier_2 qb7_injecter_cable_methode_retour_etat_zero(int num_section, int num_zone_
                                                   const deformation& deform_section);
 
 /// Loss of prestress between the permanent and the final limit state, for all active cables of a material; n:
-/// ratio of the concrete's modulus to the cable's. ERR_MODULE_CABLE (material): final law without modulus;
+/// ratio of the cable's modulus to the concrete's. ERR_MODULE_CABLE (material): final law without modulus;
 /// ERR_NON_CABLE (material): no active cable; ERR_PTS_CABLE (rank of the cable).
 ier_2 qb7_etat_permanent(int num_section, int num_materiau, int num_el_perm, int num_el_final, double n,
                          double rho_non_injecte, double rho_injecte);
