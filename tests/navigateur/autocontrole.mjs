@@ -30,6 +30,8 @@ const cas = [
   ['a level without keyboard', saine.replace("e.key === 'Enter'", 'false'), /Enter leaves level 1/],
   ['a summary that stays', saine.replace("expandcontent(0, 'Tab_sommaire_dynam');", ''), /does not fold away/],
   ['a wide note', apres("<div style='width: 3000px'>x</div>"), /px wide in a window of 1280/],
+  ['a note wide on paper', saine.replace('<style media="print">', '<style media="print">.content { width: 900px; }'),
+    /px wide on a sheet of 680/],
   ['a panel over the text', saine.replace('class="conteneur"', 'class="conteneur" style="position: fixed; top: 0; left: 0"'),
     /the summary lies over the text/],
 ];

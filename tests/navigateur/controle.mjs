@@ -145,6 +145,8 @@ async function controlerPage(page, { nom, captures, dire, avecRessources }) {
   await page.setViewportSize({ width: 680, height: 960 });
   if (await page.locator('.conteneur').isVisible()) dire('the summary is printed');
   await controlerTextes(page, dire, 'on paper', '.content');
+  const trop = await page.evaluate(debordement);
+  if (trop) dire(`the note is ${trop} px wide on a sheet of 680`);
   await capturer('papier', true);
   if (captures) await page.pdf({ path: join(captures, `${nom}.pdf`), preferCSSPageSize: true, printBackground: false });
 }
