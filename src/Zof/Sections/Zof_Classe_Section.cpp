@@ -54,9 +54,7 @@ void loc_ajouter(uef_vector& liste, zof_zone_generalisee& zone) {
 
 void loc_lire_titre(zof_section& section, bool& erco) {
   zof_non_repetition_chaine("TITR", section.m_titre_zone, erco);
-  if (erco) return;
-  int longueur = 0;
-  and_lire_chaine(section.m_titre_zone, 80, longueur, erco);
+  if (!erco) zof_decoder_titre(section.m_titre_zone, erco);
 }
 
 void loc_lire_symetrie(zof_section& section, bool& erco) {

@@ -31,9 +31,7 @@ std::optional<nature_zone> loc_nature(const texte<4>& mot) {
 
 void loc_lire_titre(zof_zone& zone, bool& erco) {
   zof_non_repetition_chaine("TITR", zone.m_titre_zone, erco);
-  if (erco) return;
-  int longueur = 0;
-  and_lire_chaine(zone.m_titre_zone, 80, longueur, erco);
+  if (!erco) zof_decoder_titre(zone.m_titre_zone, erco);
 }
 
 void loc_lire_dimensionnable(bloc_zone& bloc, bool& erco) {
