@@ -32,6 +32,12 @@ struct autres_mots {
 };
 
 bool loc_donne(double cote) { return est_renseigne_double(cote); }
+// Reals of the data file are singles: sums that are equal on paper differ in their seventh digit. Dimensions
+// that differ by no more than that are equal.
+double loc_jeu(double a, double b) { return 1e-6 * std::max(std::abs(a), std::abs(b)); }
+bool loc_au_plus(double a, double b) { return a <= b + loc_jeu(a, b); }
+bool loc_sous(double a, double b) { return a < b - loc_jeu(a, b); }
+
 double loc_zero_si_absent(double cote) { return loc_donne(cote) ? cote : 0.0; }
 
 void loc_lire_nombre_points(int& nombre, bool& deja_lu, bool& erco) {
@@ -142,10 +148,10 @@ void loc_controler_joue(const forme& f, bool& erco) {
   zof_assert_commande(loc_donne(f.l_joue), "Attribut largeur joue non renseignee", erco);
   zof_assert_commande(loc_donne(f.h_origine), "hauteur origine obligatoire en présence de joue"_l1, erco);
   if (loc_donne(f.h_joue))
-    zof_assert_commande(f.h_origine + f.h_joue <= f.h_totale,
+    zof_assert_commande(loc_au_plus(f.h_origine + f.h_joue, f.h_totale),
                         "Attribut hauteur origine + hauteur joue > hauteur totale", erco);
   if (loc_donne(f.l_joue))
-    zof_assert_commande(f.l_joue + f.l_encorbellement <= f.l_totale / 2,
+    zof_assert_commande(loc_au_plus(f.l_joue + f.l_encorbellement, f.l_totale / 2),
                         "Attribut largeurs joue + encobellement> largeur totale/2", erco);
 }
 
@@ -158,29 +164,30 @@ bool loc_avec_joue(const forme& f) {
 
 void loc_controler_joues_en_i(const forme_en_i& f, const table_en_i& table, bool& erco) {
   if (loc_donne(table.h_joue) && loc_donne(table.l_joue))
-    zof_assert_commande(2 * table.l_joue + f.l_ame < table.l_table, joues_trop_larges, erco);
+    zof_assert_commande(loc_sous(2 * table.l_joue + f.l_ame, table.l_table), joues_trop_larges, erco);
 }
 
 void loc_controler_i_symetrique(const forme_en_i& f, bool& erco) {
   const table_en_i& t = f.sup;
-  zof_assert_commande(f.l_ame < t.l_table, ame_trop_large, erco);
+  zof_assert_commande(loc_sous(f.l_ame, t.l_table), ame_trop_large, erco);
   if (loc_donne(t.h_joue)) {
     // The slope counts once, though the I has two: slopes that meet in the web are accepted.
-    zof_assert_commande(t.h_table + t.h_joue < f.h_totale, tables_et_joues_trop_hautes, erco);
+    zof_assert_commande(loc_sous(t.h_table + t.h_joue, f.h_totale), tables_et_joues_trop_hautes, erco);
     loc_controler_joues_en_i(f, t, erco);
   } else {
     zof_assert_commande(!loc_donne(t.l_joue), joue_sans_hauteur, erco);
-    zof_assert_commande(2 * t.h_table < f.h_totale, tables_trop_hautes, erco);
+    zof_assert_commande(loc_sous(2 * t.h_table, f.h_totale), tables_trop_hautes, erco);
   }
 }
 
 void loc_controler_i_non_symetrique(const forme_en_i& f, bool& erco) {
-  zof_assert_commande(f.l_ame < f.sup.l_table, ame_trop_large, erco);
-  zof_assert_commande(f.l_ame < f.inf.l_table, ame_trop_large, erco);
+  zof_assert_commande(loc_sous(f.l_ame, f.sup.l_table), ame_trop_large, erco);
+  zof_assert_commande(loc_sous(f.l_ame, f.inf.l_table), ame_trop_large, erco);
   const double hauteurs =
       f.sup.h_table + loc_zero_si_absent(f.sup.h_joue) + f.inf.h_table + loc_zero_si_absent(f.inf.h_joue);
   const bool joue = loc_donne(f.sup.h_joue) || loc_donne(f.inf.h_joue);
-  zof_assert_commande(hauteurs < f.h_totale, joue ? tables_et_joues_trop_hautes : tables_trop_hautes, erco);
+  zof_assert_commande(loc_sous(hauteurs, f.h_totale), joue ? tables_et_joues_trop_hautes : tables_trop_hautes,
+                      erco);
   loc_controler_joues_en_i(f, f.sup, erco);
   loc_controler_joues_en_i(f, f.inf, erco);
   zof_assert_commande(loc_donne(f.sup.h_joue) || !loc_donne(f.sup.l_joue), joue_sans_hauteur, erco);
@@ -207,26 +214,26 @@ void loc_controler_joue_caisson(const forme_caisson& f, bool& erco) {
   const double hgi = loc_zero_si_absent(f.h_gousset_intrados);
   if (loc_donne(f.h_joue))
     zof_assert_commande(
-        f.h_joue + f.h_origine + f.epaisseur_intrados + hgi <= f.h_totale,
+        loc_au_plus(f.h_joue + f.h_origine + f.epaisseur_intrados + hgi, f.h_totale),
         "h_joue+h_origine_encorbellement+epaisseur_intrados+ h_goussets_intrados> hauteur totale", erco);
   if (!loc_donne(f.l_joue)) return;
   const double l = f.l_joue + f.l_encorbellement + f.epaisseur_ame;
-  zof_assert_commande(l + loc_zero_si_absent(f.l_gousset_intrados) <= f.l_totale / 2,
+  zof_assert_commande(loc_au_plus(l + loc_zero_si_absent(f.l_gousset_intrados), f.l_totale / 2),
                       "Attribut largeurs joue + encobellement + ame + goussets intrados> largeur totale/2",
                       erco);
-  zof_assert_commande(l + loc_zero_si_absent(f.l_gousset_extrados) <= f.l_totale / 2,
+  zof_assert_commande(loc_au_plus(l + loc_zero_si_absent(f.l_gousset_extrados), f.l_totale / 2),
                       "Attribut largeurs joue + encobellement + ame + goussets extrados> largeur totale/2",
                       erco);
 }
 
 void loc_controler_intrados(const forme_caisson& f, bool& erco) {
   if (!loc_donne(f.l_intrados)) return;
-  zof_assert_commande(f.l_intrados > f.epaisseur_ame + loc_zero_si_absent(f.l_gousset_intrados),
+  zof_assert_commande(loc_sous(f.epaisseur_ame + loc_zero_si_absent(f.l_gousset_intrados), f.l_intrados),
                       "Attribut largeur intrados <= epaisseur_ame+l_goussets_intrado", erco);
-  zof_assert_commande(f.l_intrados <= f.l_totale - 2 * f.l_encorbellement,
+  zof_assert_commande(loc_au_plus(f.l_intrados, f.l_totale - 2 * f.l_encorbellement),
                       "Attribut largeur intrados >l_totale-2*l_encorbellement", erco);
   if (loc_donne(f.l_joue))
-    zof_assert_commande(f.l_intrados <= f.l_totale - 2 * f.l_encorbellement - 2 * f.l_joue,
+    zof_assert_commande(loc_au_plus(f.l_intrados, f.l_totale - 2 * f.l_encorbellement - 2 * f.l_joue),
                         "Attribut largeur intrados >l_totale-2*l_encorbellement-2*l_joue", erco);
 }
 
@@ -234,17 +241,17 @@ void loc_controler_caisson(const forme_caisson& f, bool& erco) {
   const double hge = loc_zero_si_absent(f.h_gousset_extrados);
   const double hgi = loc_zero_si_absent(f.h_gousset_intrados);
   const double l = f.l_encorbellement + f.epaisseur_ame;
-  zof_assert_commande(f.h_extremite <= f.h_origine,
+  zof_assert_commande(loc_au_plus(f.h_extremite, f.h_origine),
                       "Attribut hauteur extremite encorbellement > hauteur origine encorbellement", erco);
   zof_assert_commande(
-      f.h_origine + f.epaisseur_intrados + hgi <= f.h_totale,
+      loc_au_plus(f.h_origine + f.epaisseur_intrados + hgi, f.h_totale),
       "Attribut hauteur origine +epaisseur_intrados+hauteurs_goussets_inferieurs > hauteur totale", erco);
   zof_assert_commande(
-      f.epaisseur_intrados + f.epaisseur_extrados + hgi + hge < f.h_totale,
+      loc_sous(f.epaisseur_intrados + f.epaisseur_extrados + hgi + hge, f.h_totale),
       "epaisseur_intrados + epaisseur_extrados+ h_goussets_intrados + h_goussets_extrados  < h_totale", erco);
-  zof_assert_commande(l + loc_zero_si_absent(f.l_gousset_intrados) <= f.l_totale / 2,
+  zof_assert_commande(loc_au_plus(l + loc_zero_si_absent(f.l_gousset_intrados), f.l_totale / 2),
                       "l_encorbellement+epaisseur_ame+l_goussets_intrados >  largeur totale /2", erco);
-  zof_assert_commande(l + loc_zero_si_absent(f.l_gousset_extrados) <= f.l_totale / 2,
+  zof_assert_commande(loc_au_plus(l + loc_zero_si_absent(f.l_gousset_extrados), f.l_totale / 2),
                       "l_encorbellement+epaisseur_ame+l_goussets_extrados >  largeur totale /2", erco);
   if (loc_avec_joue(f)) loc_controler_joue_caisson(f, erco);
   loc_controler_intrados(f, erco);
@@ -286,13 +293,14 @@ void zof_zone::decoder_zone_rectangle_evide(bool& erco) {
   loc_assert_paire(f.largeur_gousset, "L_GO", f.hauteur_gousset, "H_GO", erco);
   if (erco) return;
   const double hauteurs = f.epaisseur_sup + f.epaisseur_inf;
-  zof_assert_commande(hauteurs < f.hauteur, "Epaisseurs superieures à  la hauteur"_l1, erco);
-  zof_assert_commande(2 * f.epaisseur_lat < f.largeur, "Epaisseurs superieures à la largeur"_l1, erco);
+  zof_assert_commande(loc_sous(hauteurs, f.hauteur), "Epaisseurs superieures à  la hauteur"_l1, erco);
+  zof_assert_commande(loc_sous(2 * f.epaisseur_lat, f.largeur), "Epaisseurs superieures à la largeur"_l1,
+                      erco);
   if (loc_donne(f.largeur_gousset)) {
     // The width of the haunches stands in for their height too.
-    zof_assert_commande(hauteurs + 2 * f.largeur_gousset < f.hauteur,
+    zof_assert_commande(loc_sous(hauteurs + 2 * f.largeur_gousset, f.hauteur),
                         "Epaisseurs superieures à la hauteur"_l1, erco);
-    zof_assert_commande(2 * (f.largeur_gousset + f.epaisseur_lat) < f.largeur,
+    zof_assert_commande(loc_sous(2 * (f.largeur_gousset + f.epaisseur_lat), f.largeur),
                         "Epaisseurs superieures à la largeur"_l1, erco);
   }
   if (!erco) loc_creer_contour_creux(*this, f, erco);
@@ -317,7 +325,8 @@ void zof_zone::decoder_zone_tube(bool& erco) {
   zof_assert_renseigne_double(f.diametre, "DIAMETRE", erco);
   zof_assert_renseigne_double(f.epaisseur, "EPAISSEUR", erco);
   if (erco) return;
-  zof_assert_commande(f.epaisseur <= f.diametre / 2, "Attribut epaisseur incorrecte : > rayon ", erco);
+  zof_assert_commande(loc_au_plus(f.epaisseur, f.diametre / 2), "Attribut epaisseur incorrecte : > rayon ",
+                      erco);
   if (!erco) loc_assert_nombre_points(f.nombre_points, erco);
   if (!erco) loc_creer_contour_creux(*this, f, erco);
 }
@@ -335,8 +344,8 @@ void zof_zone::decoder_zone_en_te(bool& erco) {
   zof_assert_renseigne_double(f.h_ame, "H_AME", erco);
   zof_assert_renseigne_double(f.l_ame, "L_AME", erco);
   if (erco) return;
-  zof_assert_commande(f.l_ame < f.l_totale, ame_trop_large, erco);
-  zof_assert_commande(f.h_ame < f.h_totale, "Attribut hauteur ame >= hauteur totale", erco);
+  zof_assert_commande(loc_sous(f.l_ame, f.l_totale), ame_trop_large, erco);
+  zof_assert_commande(loc_sous(f.h_ame, f.h_totale), "Attribut hauteur ame >= hauteur totale", erco);
   if (!erco) loc_creer_contour(*this, f, erco);
 }
 
@@ -403,11 +412,14 @@ void zof_zone::decoder_zone_te_encorbellement(bool& erco) {
   zof_assert_renseigne_double(f.h_origine, "H_ORIGINE_ENCORBELLEMENT", erco);
   zof_assert_renseigne_double(f.l_encorbellement, "L_ENCORBELLEMENT", erco);
   if (erco) return;
-  zof_assert_commande(f.h_extremite <= f.h_totale, "Attribut hauteur extremite > hauteur totale", erco);
-  zof_assert_commande(2 * f.l_encorbellement <= f.l_totale,
+  zof_assert_commande(loc_au_plus(f.h_extremite, f.h_totale), "Attribut hauteur extremite > hauteur totale",
+                      erco);
+  zof_assert_commande(loc_au_plus(2 * f.l_encorbellement, f.l_totale),
                       "Attribut largeur encorbellement >  largeur totale /2", erco);
-  zof_assert_commande(f.h_origine <= f.h_totale, "Attribut hauteur origine > hauteur totale", erco);
-  zof_assert_commande(f.h_origine >= f.h_extremite, "Attribut hauteur origine < hauteur extremite", erco);
+  zof_assert_commande(loc_au_plus(f.h_origine, f.h_totale), "Attribut hauteur origine > hauteur totale",
+                      erco);
+  zof_assert_commande(loc_au_plus(f.h_extremite, f.h_origine), "Attribut hauteur origine < hauteur extremite",
+                      erco);
   if (loc_avec_joue(f)) loc_controler_joue(f, erco);
   if (!erco) loc_creer_contour(*this, f, erco);
 }

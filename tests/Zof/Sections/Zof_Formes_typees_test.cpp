@@ -63,17 +63,27 @@ void comparer_proprietes(const table_csv& t, std::size_t i, int etat_limite) {
 
 TEST(FormesTypees, PointsEtProprietesDesValeursIndependantes) {
   const table_csv t = lire_csv(ZOF_DONNEES "/sections/templates.csv");
-  ASSERT_EQ(t.lignes.size(), 46U);
+  ASSERT_EQ(t.lignes.size(), 47U);
   for (std::size_t i = 0; i < t.lignes.size(); ++i) {
     SCOPED_TRACE(t.texte(i, "case"));
     const std::string forme = t.texte(i, "form") == "REC_" ? "REC_EVIDE" : t.texte(i, "form");
     modele m(contour(forme + en_double(" " + t.texte(i, "dimensions")) + " FIN_"));
-    ASSERT_TRUE(m.lire()) << m.console();
+    const bool lue = m.lire();
+    // Slopes as wide as the flange: the outline is that of the formulas, and the command refuses it.
+    if (t.texte(i, "case") == "i_sy_4") {
+      const table_en_i table{1.2, 0.2, 0.3, 0.475};
+      comparer(points_contour(forme_en_i{2.2, 0.25, table, table}), lire_points(t.texte(i, "outer_points")));
+      EXPECT_FALSE(lue);
+      continue;
+    }
+    ASSERT_TRUE(lue) << m.console();
     comparer(zof_get_pt_zone_section("S1", 1)->positions_points(), lire_points(t.texte(i, "outer_points")));
     const bool creuse = t.texte(i, "void_count") != "0";
     ASSERT_EQ(zof_get_nombre_zones_section("S1"), creuse ? 2 : 1);
-    if (creuse) comparer(zof_get_pt_zone_section("S1", 2)->positions_points(), lire_points(t.texte(i, "void_points")));
-    for (const int etat_limite : {1001, 1002, 1003, qb7_etat_mecanique}) comparer_proprietes(t, i, etat_limite);
+    if (creuse)
+      comparer(zof_get_pt_zone_section("S1", 2)->positions_points(), lire_points(t.texte(i, "void_points")));
+    for (const int etat_limite : {1001, 1002, 1003, qb7_etat_mecanique})
+      comparer_proprietes(t, i, etat_limite);
   }
 }
 

@@ -13,7 +13,8 @@
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
 
-/// Materials without data of their own: a kind, a number, the three geometric laws in the situation of service.
+/// Materials without data of their own: a kind, a number, the three geometric laws in the situation of
+/// service.
 struct situation_d_essai : uef_element<situation_d_essai, zof_situation_materiau> {
   void editer_situation(bool&) const override {}
   void decoder_situation(bool&) override {}
