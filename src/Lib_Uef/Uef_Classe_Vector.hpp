@@ -7,6 +7,7 @@
 #pragma once
 
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <typeinfo>
@@ -138,6 +139,12 @@ class uef_parcours {
 
   class iterateur {
    public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = classe;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const classe*;
+    using reference = const classe&;
+
     iterateur(const uef_vector* v, int position) : v_(v), position_(position) { sauter_vides(); }
     const classe& operator*() const {
       return uef_comme<classe>(*v_->case_element(position_).m_ptr_element, v_->label());
@@ -147,7 +154,7 @@ class uef_parcours {
       sauter_vides();
       return *this;
     }
-    bool operator!=(const iterateur& autre) const { return position_ != autre.position_; }
+    bool operator==(const iterateur& autre) const { return position_ == autre.position_; }
 
    private:
     void sauter_vides() {

@@ -10,7 +10,6 @@
 #include "Edition.hpp"
 
 using socle::concat;
-using socle::texte;
 
 namespace {
 
@@ -33,14 +32,13 @@ constexpr taille_file loc_taille(int classe, int file) {
 /// A queue with its part of the shared arrays; places run from 1, texts start at 0.
 struct vue_file {
   and_controle_file_t& q;
-  int* types;
+  and_entree_t* entrees;
   int* entiers;
   double* reels;
   char* chaines;
 
-  [[nodiscard]] type_terme type(int place) const { return static_cast<type_terme>(types[3 * (place - 1)]); }
-  [[nodiscard]] int& debut_texte(int place) const { return types[3 * (place - 1) + 1]; }
-  [[nodiscard]] int& longueur(int place) const { return types[3 * (place - 1) + 2]; }
+  [[nodiscard]] and_entree_t& entree(int place) const { return entrees[place - 1]; }
+  [[nodiscard]] type_terme type(int place) const { return entrees[place - 1].type; }
   [[nodiscard]] int& entier(int place) const { return entiers[place - 1]; }
   [[nodiscard]] double& reel(int place) const { return reels[place - 1]; }
   /// Place of the term of that rank, 1 at the head.
@@ -61,7 +59,7 @@ vue_file loc_file(int classe, int file, std::string_view operation) {
   const std::size_t c = socle::indice(classe);
   const std::size_t f = socle::indice(file);
   const int debut = g.and_debuts_files[c][f];
-  return {g.and_controle_files[c][f], g.and_stock.and_files_types.get() + std::ptrdiff_t{3} * debut,
+  return {g.and_controle_files[c][f], g.and_stock.and_files_types.get() + debut,
           g.and_stock.and_files_entiers.get() + debut, g.and_stock.and_files_reels.get() + debut,
           g.and_stock.and_files_chaines.get() + g.and_debuts_chaines[c][f]};
 }
@@ -78,24 +76,23 @@ void loc_vider(and_controle_file_t& q) {
 /// The entry becomes the current term.
 void loc_servir(const vue_file& v, int place) {
   and_global_t& g = and_global;
-  g.and_type_terme = v.type(place);
-  switch (g.and_type_terme) {
+  const and_entree_t& entree = v.entree(place);
+  g.and_type_terme = entree.type;
+  switch (entree.type) {
     case type_terme::reel_s: g.and_var_reel = static_cast<float>(v.reel(place)); break;
     case type_terme::reel_d: g.and_var_reel_d = v.reel(place); break;
     default: g.and_var_entier_ou_operateur = v.entier(place); break;
   }
-  g.and_lg_terme = v.longueur(place);
+  g.and_lg_terme = entree.longueur;
   g.and_var_chaine =
-      std::string_view(v.chaines + v.debut_texte(place), static_cast<std::size_t>(g.and_lg_terme));
+      std::string_view(v.chaines + entree.debut_texte, static_cast<std::size_t>(entree.longueur));
 }
 
 /// Writes the current term at a place of the queue, its text behind one blank.
 void loc_ranger(const vue_file& v, int place) {
   const and_global_t& g = and_global;
-  v.types[3 * (place - 1)] = static_cast<int>(g.and_type_terme);
   v.chaines[v.q.nb_caracteres++] = ' ';
-  v.debut_texte(place) = v.q.nb_caracteres;
-  v.longueur(place) = g.and_lg_terme;
+  v.entree(place) = {g.and_type_terme, v.q.nb_caracteres, g.and_lg_terme};
   const std::string_view lu = g.and_var_chaine.entier().substr(0, static_cast<std::size_t>(g.and_lg_terme));
   std::copy(lu.begin(), lu.end(), v.chaines + v.q.nb_caracteres);
   v.q.nb_caracteres += g.and_lg_terme;
@@ -107,11 +104,8 @@ void loc_ranger(const vue_file& v, int place) {
 /// The queue counts as full from now on: who takes from it what never came in meets a capacity error.
 void loc_saturer(const vue_file& v, int valeur) {
   for (int rang = v.q.nombre + 1; rang <= v.q.capacite; ++rang) {
-    const int place = v.place(rang);
-    v.types[3 * (place - 1)] = static_cast<int>(type_terme::erreur_capacite);
-    v.debut_texte(place) = 0;
-    v.longueur(place) = 0;
-    v.entier(place) = valeur;
+    v.entree(v.place(rang)) = {type_terme::erreur_capacite, 0, 0};
+    v.entier(v.place(rang)) = valeur;
   }
   v.q.nombre = v.q.capacite;
   v.q.queue = v.place(v.q.capacite);
@@ -131,7 +125,7 @@ void loc_avancer_serie(const vue_file& v, int place_valeur, int place_pas) {
     v.entier(place_valeur) = socle::somme_32(v.entier(place_valeur), v.entier(place_pas));
   else
     v.reel(place_valeur) += v.reel(place_pas);
-  v.longueur(place_valeur) = 0;  // the text was that of the value before
+  v.entree(place_valeur).longueur = 0;  // the text was that of the value before
 }
 
 /// Entries that belong together at the head: a repetition is its head and the value, an increment its head,
@@ -166,7 +160,7 @@ void and_defiler_tete(const vue_file& v) {
 void loc_defiler_queue(const vue_file& v) {
   const int place = v.q.queue;
   loc_servir(v, place);
-  v.q.nb_caracteres = std::max(v.debut_texte(place) - 1, 0);
+  v.q.nb_caracteres = std::max(v.entree(place).debut_texte - 1, 0);
   v.q.queue = place == 1 ? v.q.capacite : place - 1;
   if (--v.q.nombre == 0) loc_vider(v.q);
 }
@@ -227,7 +221,7 @@ std::string_view and_texte_file(int classe, int file) {
 
 void and_construire_files() {
   and_global_t& g = and_global;
-  g.and_stock = {std::make_unique_for_overwrite<int[]>(std::size_t{3} * and_nb_termes_total),
+  g.and_stock = {std::make_unique_for_overwrite<and_entree_t[]>(and_nb_termes_total),
                  std::make_unique_for_overwrite<int[]>(and_nb_termes_total),
                  std::make_unique_for_overwrite<double[]>(and_nb_termes_total),
                  std::make_unique_for_overwrite<char[]>(and_nb_caracteres_total)};

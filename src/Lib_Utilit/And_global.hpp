@@ -89,11 +89,18 @@ enum class and_indicateur : int {
   general = 5
 };
 
+/// What a queue holds of a term beside its value: where its text starts in the queue's characters, and its
+/// length.
+struct and_entree_t {
+  type_terme type;
+  int debut_texte;
+  int longueur;
+};
+
 /// The shared arrays that hold the terms of all queues. Their pages are taken as they are used: nothing is
 /// initialised, and a place is written before it is read.
 struct and_stock_t {
-  std::unique_ptr<int[]>
-      and_files_types;  // 3 a term: type, start of its text in the queue, length of the text
+  std::unique_ptr<and_entree_t[]> and_files_types;
   std::unique_ptr<int[]> and_files_entiers;
   std::unique_ptr<double[]> and_files_reels;
   std::unique_ptr<char[]> and_files_chaines;

@@ -8,7 +8,6 @@
 #include "Lex_analex.hpp"
 #include "Lxs_lexica.hpp"
 
-using socle::texte;
 using socle::vue_l1;
 
 namespace {

@@ -14,25 +14,28 @@ constexpr int nb_etats = 18;
 /// Class of a character by its code, 1 to 14:
 ///   1 blank and control codes     2 letters but E, D     3 digits     4 E     5 underscore     6 '     7 "
 ///   8 other special characters    9 + -     10 .     11 codes 3, 10, 24     12 *     13 D     14 $
+constexpr std::size_t loc_code(char c) { return static_cast<unsigned char>(c); }
+
 constexpr std::array<int, 128> lex_classe = [] {
   std::array<int, 128> classe{};
   classe.fill(1);
-  for (const char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"))
-    classe[static_cast<std::size_t>(c)] = 2;
-  for (const char c : std::string_view("0123456789")) classe[static_cast<std::size_t>(c)] = 3;
-  for (const char c : std::string_view("!#%&(),/:;<=>?@[\\]^`{}~|\x7F"))
-    classe[static_cast<std::size_t>(c)] = 8;
+  const auto classer = [&](std::string_view caracteres, int numero) {
+    for (const char c : caracteres) classe[loc_code(c)] = numero;
+  };
+  classer("ABCFGHIJKLMNOPQRSTUVWXYZabcfghijklmnopqrstuvwxyz", 2);
+  classer("0123456789", 3);
+  classer("Ee", 4);
+  classer("_", 5);
+  classer("'", 6);
+  classer("\"", 7);
+  classer("!#%&(),/:;<=>?@[\\]^`{}~|\x7F", 8);
+  classer("+-", 9);
+  classer(".", 10);
   for (const char c : {lex_code_fin_fichier, lex_code_fin_ligne, lex_code_erreur_lecture})
-    classe[static_cast<std::size_t>(c)] = 11;
-  classe['E'] = classe['e'] = 4;
-  classe['_'] = 5;
-  classe['\''] = 6;
-  classe['"'] = 7;
-  classe['+'] = classe['-'] = 9;
-  classe['.'] = 10;
-  classe['*'] = 12;
-  classe['D'] = classe['d'] = 13;
-  classe['$'] = 14;
+    classe[loc_code(c)] = 11;
+  classer("*", 12);
+  classer("Dd", 13);
+  classer("$", 14);
   return classe;
 }();
 

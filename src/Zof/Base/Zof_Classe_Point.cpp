@@ -1,5 +1,6 @@
 #include "Zof_Classe_Point.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -24,9 +25,10 @@ int get_position_point(const uef_vector& vecteur_points, int numero_point) {
 }
 
 bool existe_point_geometrique(const uef_vector& vecteur_points, const zof_point& point) {
-  for (const zof_point& p : uef_parcours<zof_point>(vecteur_points))
-    if (zof_distance_points(p, point) < zof_tolerance_points_confondus) return true;
-  return false;
+  const uef_parcours<zof_point> points(vecteur_points);
+  return std::any_of(points.begin(), points.end(), [&](const zof_point& p) {
+    return zof_distance_points(p, point) < zof_tolerance_points_confondus;
+  });
 }
 
 void zof_supprimer_point(uef_vector& vecteur_points, int numero_point) {
