@@ -87,7 +87,7 @@ struct utl_02_options_tableau {
   const utl_01_type_tableau* opt_tab_ancres =
       nullptr;                                         // cells as targets: names in a table of the same shape
   const utl_01_type_tableau* opt_tab_liens = nullptr;  // cells as links to these targets
-  bool opt_fusionner = false;                          // HTML: equal neighbours in a line become one cell
+  bool opt_fusionner = false;  // HTML: equal neighbours in a line are one cell, targets and links aside
 };
 
 /// Channel of an item that only one note has.

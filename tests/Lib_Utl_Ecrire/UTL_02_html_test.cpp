@@ -194,6 +194,15 @@ TEST_F(NoteHtml, DesCellulesVoisinesEgalesPeuventNEnFaireQuUne) {
             loc_entre_tables("0", loc_ligne("<TD COLSPAN=3>a</TD><TD>b</TD><TD></TD><TD></TD>")));
 }
 
+TEST_F(NoteHtml, DesCellulesQuiSontDesCiblesNeSontPasFusionnees) {
+  utl_01_type_tableau t(1, 2);
+  t.remplir_ligne(1, {"a", "a"});
+  utl_01_type_tableau ancres(1, 2);
+  ancres.remplir_ligne(1, {"", "ici"});
+  EXPECT_EQ(tableau(t, {.opt_tab_ancres = &ancres, .opt_fusionner = true}),
+            loc_entre_tables("0", loc_ligne("<TD>a</TD><TD><a id='ici'>a</a></TD>")));
+}
+
 TEST_F(NoteHtml, DesCellulesPeuventEtreCiblesOuLiens) {
   utl_01_type_tableau ancres(2, 2);
   ancres.cellule(1, 1) = "haut";

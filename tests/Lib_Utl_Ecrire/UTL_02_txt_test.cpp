@@ -261,6 +261,7 @@ TEST_F(NoteTexte, UnTableauLongSortEnEntier) {
     attendu += std::to_string(100000 + i) + "   \n";
   }
   EXPECT_EQ(tableau(t), attendu + "\n");
+  EXPECT_LT(utl_02.tampon.capacity(), 100000U) << "a note must not be gathered in memory";
 }
 
 TEST_F(NoteTexte, UnSautDePageEstUnCaractereDePage) {

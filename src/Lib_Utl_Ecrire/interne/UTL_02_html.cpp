@@ -62,48 +62,67 @@ std::string_view loc_case(const utl_01_type_tableau* tableau, int ligne, int col
   return tableau == nullptr ? std::string_view{} : tableau->cellule(ligne, colonne).utile();
 }
 
+/// A table on its way into the note.
+struct table_html {
+  composition& note;
+  const utl_01_type_tableau& tableau;
+  const utl_02_decoupe& decoupe;
+  const utl_02_options_tableau& options;
+
+  /// Text of a cell. Looked for within the width of its column: nearly all of its eighty characters are
+  /// blank.
+  [[nodiscard]] std::string_view texte(int ligne, int colonne) const {
+    const auto largeur = static_cast<std::size_t>(decoupe.largeur(colonne));
+    return sans_blancs_finals(tableau.cellule(ligne, colonne).entier().substr(0, largeur));
+  }
+};
+
 /// Place of the cell and number of columns that it covers.
 struct place_cellule {
   int ligne, colonne, etendue;
   bool en_tete;
 };
 
-void loc_code_tab_html(composition& note, const utl_01_type_tableau& tableau,
-                       const utl_02_options_tableau& options, const place_cellule& place) {
+void loc_code_tab_html(const table_html& t, const place_cellule& place) {
   const std::string_view balise = place.en_tete ? "TH" : "TD";
-  note << "<" << balise;
-  if (place.etendue > 1) note << " COLSPAN=" << place.etendue;
-  note << ">";
-  const std::string_view texte = tableau.cellule(place.ligne, place.colonne).utile();
-  const std::string_view ancre = loc_case(options.opt_tab_ancres, place.ligne, place.colonne);
-  const std::string_view lien = loc_case(options.opt_tab_liens, place.ligne, place.colonne);
+  t.note << "<" << balise;
+  if (place.etendue > 1) t.note << " COLSPAN=" << place.etendue;
+  t.note << ">";
+  const std::string_view texte = t.texte(place.ligne, place.colonne);
+  const std::string_view ancre = loc_case(t.options.opt_tab_ancres, place.ligne, place.colonne);
+  const std::string_view lien = loc_case(t.options.opt_tab_liens, place.ligne, place.colonne);
   if (ancre.empty() && lien.empty())
-    note << en_html{texte};
+    t.note << en_html{texte};
   else
-    loc_ecrire_texte(note, texte, {.opt_ancre = ancre, .opt_lien_ancre = lien});
-  note << "</" << balise << ">";
+    loc_ecrire_texte(t.note, texte, {.opt_ancre = ancre, .opt_lien_ancre = lien});
+  t.note << "</" << balise << ">";
 }
 
-void loc_ecrire_ligne(composition& note, const utl_01_type_tableau& tableau,
-                      const utl_02_tableau_partiel& partiel, const utl_02_options_tableau& options,
-                      int ligne) {
-  const bool titre_de_colonnes = ligne == 1 && loc_premiere_ligne_en_tete(tableau.contour_tableau);
-  const bool titre_de_ligne = loc_premiere_colonne_en_tete(tableau.contour_tableau);
-  const int nb = partiel.nb_colonnes();
-  note << "<TR ALIGN=LEFT>";
-  for (int k = 1, suivante = 1; k <= nb; k = suivante) {
+/// Number of cells from this one on that show the same text, one if cells are not to be joined.
+int loc_etendue(const table_html& t, const utl_02_tableau_partiel& partiel, int ligne, int position) {
+  const utl_02_options_tableau& o = t.options;
+  // Joined cells would lose their targets.
+  if (!o.opt_fusionner || o.opt_tab_ancres != nullptr || o.opt_tab_liens != nullptr) return 1;
+  const std::string_view texte = t.texte(ligne, partiel.colonne(position));
+  int etendue = 1;
+  while (!texte.empty() && position + etendue <= partiel.nb_colonnes() &&
+         t.texte(ligne, partiel.colonne(position + etendue)) == texte)
+    ++etendue;
+  return etendue;
+}
+
+void loc_ecrire_ligne(const table_html& t, const utl_02_tableau_partiel& partiel, int ligne) {
+  const bool titre_de_colonnes = ligne == 1 && loc_premiere_ligne_en_tete(t.tableau.contour_tableau);
+  const bool titre_de_ligne = loc_premiere_colonne_en_tete(t.tableau.contour_tableau);
+  t.note << "<TR ALIGN=LEFT>";
+  int etendue = 1;
+  for (int k = 1; k <= partiel.nb_colonnes(); k += etendue) {
     const int colonne = partiel.colonne(k);
-    suivante = k + 1;
-    while (options.opt_fusionner && suivante <= nb && !tableau.cellule(ligne, colonne).vide() &&
-           tableau.cellule(ligne, partiel.colonne(suivante)) == tableau.cellule(ligne, colonne))
-      ++suivante;
-    loc_code_tab_html(note, tableau, options,
-                      {.ligne = ligne,
-                       .colonne = colonne,
-                       .etendue = suivante - k,
-                       .en_tete = titre_de_colonnes || (titre_de_ligne && colonne == 1)});
+    etendue = loc_etendue(t, partiel, ligne, k);
+    const bool en_tete = titre_de_colonnes || (titre_de_ligne && colonne == 1);
+    loc_code_tab_html(t, {.ligne = ligne, .colonne = colonne, .etendue = etendue, .en_tete = en_tete});
   }
-  note << "</TR>" << fin_de_ligne;
+  t.note << "</TR>" << fin_de_ligne;
 }
 
 void loc_ecrire_legende(composition& note, std::string_view titre, int partie, int nb_parties) {
@@ -226,13 +245,14 @@ void utl_02_fin_puce_html(sortie& unite) {
 void utl_02_ecrire_tableau_html(sortie& unite, const utl_01_type_tableau& tableau,
                                 const utl_02_decoupe& decoupe, const utl_02_options_tableau& options) {
   composition note(unite);
+  const table_html t{note, tableau, decoupe, options};
   const auto nb_parties = static_cast<int>(decoupe.partiels.size());
   int partie = 0;
   for (const utl_02_tableau_partiel& partiel : decoupe.partiels) {
     const std::string_view bordure = tableau.contour_tableau == utl_01_sans_contour ? "0" : "1";
     note << "<center><TABLE class='table_donnees' BORDER=" << bordure << ">" << fin_de_ligne;
     loc_ecrire_legende(note, tableau.titre_tableau.utile(), ++partie, nb_parties);
-    for (int i = 1; i <= tableau.nb_lignes(); ++i) loc_ecrire_ligne(note, tableau, partiel, options, i);
+    for (int i = 1; i <= tableau.nb_lignes(); ++i) loc_ecrire_ligne(t, partiel, i);
     note << "</TABLE></center>" << fin_de_ligne;
   }
 }
