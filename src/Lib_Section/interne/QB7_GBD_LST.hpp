@@ -2,7 +2,9 @@
 //
 // An element gives its key by clef(); keys are unique and ascending. Elements do not move when others come or
 // go, so that a pointer to one stays good until it is removed. A look-up is a binary search, save that the
-// cursor's element and the next are tried first: records are mostly asked for one after the other.
+// cursor's element and its neighbours are tried first: records are mostly asked for one after the other.
+// Clients number their objects upwards, and an insertion at the end is constant; anywhere else it shifts the
+// pointers behind it.
 #pragma once
 
 #include <algorithm>
@@ -47,6 +49,7 @@ class gbd_liste {
   elt_t* lst_chercher_elt(const clef_t& clef) {
     if (lst_clef_est(m_curseur, clef)) return lst_actuel();
     if (lst_clef_est(m_curseur + 1, clef)) return lst_suivant();
+    if (lst_clef_est(m_curseur - 1, clef)) return lst_precedent();
     m_curseur = lst_rang(clef);
     return lst_clef_est(m_curseur, clef) ? lst_actuel() : nullptr;
   }
