@@ -543,3 +543,48 @@ TEST(Lecteur, LeDrapeauEstRemisAFauxParUneLecture) {
   and_lire_terme(erco);
   EXPECT_FALSE(erco);
 }
+
+namespace {
+
+/// Reads to the end of the data with whatever operation comes; gives the number of reads.
+int loc_lire_tout(int choix) {
+  texte<32> mot;
+  int lus = 0;
+  and_global.and_type_terme = type_terme::aucun;
+  while (and_global.and_type_terme != type_terme::fin_fichier) {
+    bool erco = false;
+    int entier = 0;
+    double reel = 0;
+    switch ((choix + ++lus) % 7) {
+      case 0: and_lire_entier(entier, erco); break;
+      case 1: and_lire_reel_d(reel, erco); break;
+      case 2: and_lire_deb_nom(mot, 4, erco); break;
+      case 3: and_lire_nom(mot, 32, erco); break;
+      case 4: and_lire_chaine(mot, 32, entier, erco); break;
+      case 5: and_relire_donnee(); [[fallthrough]];
+      default: and_lire_terme(erco); break;
+    }
+  }
+  return lus;
+}
+
+}  // namespace
+
+// Whatever the bytes are, reading comes to the end of the data, by the end of the file at the latest.
+TEST(Robustesse, DesOctetsQuelconques) {
+  const std::string alphabet = "aAeEdD19._'\"$#+-*(;,<>= \t\n\r\x03\x18\xE9\x7F" + std::string(1, '\0');
+  unsigned etat = 12345;
+  const auto hasard = [&etat](std::size_t n) {
+    etat = etat * 1664525U + 1013904223U;
+    return static_cast<std::size_t>(etat >> 8U) % n;
+  };
+  for (int essai = 0; essai < 3000; ++essai) {
+    std::string donnees;
+    for (std::size_t i = hasard(120); i > 0; --i) donnees += alphabet[hasard(alphabet.size())];
+    const lecteur l(donnees);
+    int lus = 0;
+    const auto statut = statut_d_arret([&] { lus = loc_lire_tout(essai); });
+    EXPECT_EQ(statut.value_or(0), 0) << donnees;
+    EXPECT_LE(lus, 500) << donnees;
+  }
+}
