@@ -4,8 +4,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 permis=$(sed 's/#.*//' scripts/etats_permis.txt | tr -s ' \n' '\n' | sed '/^$/d' | sort -u)
-trouves=$(find "$1/src" -name '*.a' -print0 | xargs -0 nm --defined-only --demangle 2>/dev/null |
-  awk '$2 ~ /^[bBdDgGsSC]$/ { $1=""; $2=""; sub(/^ +/, ""); print }' |
+# Tables of constants that hold addresses stand in .data.rel.ro: they are written by the loader alone.
+trouves=$(find "$1/src" -name '*.a' -print0 | xargs -0 nm --format=sysv --defined-only --demangle 2>/dev/null |
+  awk -F'|' '$3 ~ /^ *[bBdDgGsSC] *$/ && $7 !~ /^\.data\.rel\.ro/ { sub(/ +$/, "", $1); print $1 }' |
   grep -v -E '^(vtable|typeinfo|VTT|guard variable for|DW\.ref)|^\.' | sort -u)
 # An unnamed namespace and the class of a member are not part of the record's name.
 inconnus=$(printf '%s\n' "$trouves" | sed 's/.*:://' | sort -u | comm -23 - <(printf '%s\n' "$permis"))
