@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 #include "QB7_Acces.hpp"
 #include "QB7_ERR_Erreurs.hpp"
@@ -273,35 +276,28 @@ ier_2 qb7_lire_c_remplissage(int num_section, int num_zone, double& c_remplissag
 
 namespace {
 
-/// Position of each point of a zone by its number, so that a list of points is not looked for point by point.
-class loc_positions {
- public:
-  explicit loc_positions(const gbd_zone& zone) {
-    m_positions.reserve(zone.liste_points.size());
-    for (std::size_t i = 0; i < zone.liste_points.size(); ++i)
-      m_positions.emplace_back(zone.liste_points[i], i);
-    std::ranges::sort(m_positions);
-  }
-
-  /// All the positions of a point: a list may name it twice.
-  auto de(int num_point) const {
-    return std::ranges::equal_range(m_positions, num_point, {}, &std::pair<int, std::size_t>::first);
-  }
-
- private:
-  std::vector<std::pair<int, std::size_t>> m_positions;
-};
+/// Number and position of each point of a zone, ascending, so that a list of points is not looked for one by
+/// one.
+std::vector<std::pair<int, std::size_t>> loc_positions(const gbd_zone& zone) {
+  std::vector<std::pair<int, std::size_t>> positions;
+  positions.reserve(zone.liste_points.size());
+  for (std::size_t i = 0; i < zone.liste_points.size(); ++i) positions.emplace_back(zone.liste_points[i], i);
+  std::ranges::sort(positions);
+  return positions;
+}
 
 }  // namespace
 
 ier_2 qb7_fixer_critiques(int num_section, int num_zone, std::span<const int> liste_critiques,
                           bool critique) {
   return qb7_sur_zone("QB7_Fixer_Critiques", num_section, num_zone, [&](gbd_zone& zone) {
-    const loc_positions positions(zone);
+    const auto positions = loc_positions(zone);
     for (const int num_point : liste_critiques) {
-      const auto places = positions.de(num_point);
-      if (places.empty()) return ier_2{ERR_NON_POINT, num_point};
-      for (const auto& place : places) zone.critiques[place.second] = critique;
+      auto place = std::lower_bound(positions.begin(), positions.end(), std::pair{num_point, std::size_t{0}});
+      if (place == positions.end() || place->first != num_point) return ier_2{ERR_NON_POINT, num_point};
+      // a zone may list a point twice
+      for (; place != positions.end() && place->first == num_point; ++place)
+        zone.critiques[place->second] = critique;
     }
     return ier_2{};
   });

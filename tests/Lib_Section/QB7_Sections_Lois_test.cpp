@@ -14,7 +14,7 @@ constexpr int M = 3;
 constexpr int EL = 1002;
 constexpr ier_2 reussite{};
 
-class Lois : public Moteur {
+class MagasinDeLois : public Moteur {
  protected:
   /// Nothing in tension, 20000 e - 5e6 e² up to 0.002, then 20.
   static ier_2 creer_parabole(int num_materiau = M, int num_etat_lim = EL) {
@@ -29,7 +29,7 @@ class Lois : public Moteur {
 
 }  // namespace
 
-TEST_F(Lois, UneLoiSeRelit) {
+TEST_F(MagasinDeLois, UneLoiSeRelit) {
   EXPECT_EQ(creer_parabole(), reussite);
   int nbre_interv = 0;
   int degre = 0;
@@ -51,7 +51,7 @@ TEST_F(Lois, UneLoiSeRelit) {
   EXPECT_EQ(type_trou, 2000);
 }
 
-TEST_F(Lois, LesCoefficientsAuDessusDuDegreNeComptentPas) {
+TEST_F(MagasinDeLois, LesCoefficientsAuDessusDuDegreNeComptentPas) {
   EXPECT_EQ(creer({0}, 1, 1), reussite);
   double sigma = 0;
   EXPECT_EQ(qb7_contrainte_materiau(M, EL, 10, sigma), reussite);
@@ -62,7 +62,7 @@ TEST_F(Lois, LesCoefficientsAuDessusDuDegreNeComptentPas) {
   EXPECT_EQ(degre, 1);
 }
 
-TEST_F(Lois, LoisRefusees) {
+TEST_F(MagasinDeLois, LoisRefusees) {
   EXPECT_EQ(creer({}, 1, 0), (ier_2{ERR_NBRE_INT_LOI, 0}));
   EXPECT_EQ(creer({}, 9, 0), (ier_2{ERR_NBRE_INT_LOI, 0})) << "before the degree";
   EXPECT_EQ(creer({0}, 4, 1), (ier_2{ERR_DEGRE_LOI, 4}));
@@ -78,9 +78,9 @@ TEST_F(Lois, LoisRefusees) {
 }
 
 // The first left end takes no part in the evaluation: its step may be anything.
-TEST_F(Lois, LePremierPasNEstPasExamine) { EXPECT_EQ(creer({5, 0, 1}, 1, 3), reussite); }
+TEST_F(MagasinDeLois, LePremierPasNEstPasExamine) { EXPECT_EQ(creer({5, 0, 1}, 1, 3), reussite); }
 
-TEST_F(Lois, UneClefPriseNEstEcraseeQueSiCEstPermis) {
+TEST_F(MagasinDeLois, UneClefPriseNEstEcraseeQueSiCEstPermis) {
   EXPECT_EQ(creer_parabole(), reussite);
   EXPECT_EQ(creer({0}, 1, 1), (ier_2{ERR_LOI_EXISTE, M}));
   EXPECT_EQ(creer_parabole(M, EL + 1), reussite);
@@ -92,7 +92,7 @@ TEST_F(Lois, UneClefPriseNEstEcraseeQueSiCEstPermis) {
   EXPECT_EQ(sigma, 21);
 }
 
-TEST_F(Lois, UnNoeudAppartientALIntervalleDeDroite) {
+TEST_F(MagasinDeLois, UnNoeudAppartientALIntervalleDeDroite) {
   const std::array epsilons = {-1.0, 0.5};
   const std::array<qb7_polynome, 2> coeffs = {{{1}, {7}}};
   EXPECT_EQ(qb7_creer_loi(M, EL, epsilons, 0, coeffs), reussite);
@@ -105,7 +105,7 @@ TEST_F(Lois, UnNoeudAppartientALIntervalleDeDroite) {
   EXPECT_EQ(sigma, 1) << "the first interval has no left end";
 }
 
-TEST_F(Lois, ContrainteModuleEtDeformation) {
+TEST_F(MagasinDeLois, ContrainteModuleEtDeformation) {
   EXPECT_EQ(creer_parabole(), reussite);
   double x = 0;
   EXPECT_EQ(qb7_contrainte_materiau(M, EL, 0.001, x), reussite);
@@ -131,7 +131,7 @@ TEST_F(Lois, ContrainteModuleEtDeformation) {
   EXPECT_THAT(journal_du_moteur(), ElementsAre("QB7_Contrainte_Materiau"));
 }
 
-TEST_F(Lois, CopierEtSupprimer) {
+TEST_F(MagasinDeLois, CopierEtSupprimer) {
   EXPECT_EQ(creer_parabole(), reussite);
   EXPECT_EQ(qb7_fixer_bornes_loi(M, EL, {}, 0.0035), reussite);
   EXPECT_EQ(qb7_fixer_type_trou(M, EL, 2003), reussite);
@@ -154,7 +154,7 @@ TEST_F(Lois, CopierEtSupprimer) {
   EXPECT_EQ(qb7_supprimer_loi(8, 2001), (ier_2{ERR_NON_LOI, 8}));
 }
 
-TEST_F(Lois, TailleDesTableaux) {
+TEST_F(MagasinDeLois, TailleDesTableaux) {
   EXPECT_EQ(creer_parabole(), reussite);
   std::array<double, 2> epsilons{7, 7};
   std::array<qb7_polynome, 3> coeffs{};
@@ -165,7 +165,7 @@ TEST_F(Lois, TailleDesTableaux) {
   EXPECT_EQ(qb7_lire_tabs_loi(M, EL, bons, court), (ier_2{ERR_DIM_TAB, 3}));
 }
 
-TEST_F(Lois, TypesDeTrou) {
+TEST_F(MagasinDeLois, TypesDeTrou) {
   EXPECT_EQ(creer_parabole(), reussite);
   for (const int type : {2000, 2001, 2002, 2003}) EXPECT_EQ(qb7_fixer_type_trou(M, EL, type), reussite);
   for (const int type : {1999, 2004, 0})
@@ -175,7 +175,7 @@ TEST_F(Lois, TypesDeTrou) {
   EXPECT_EQ(type_trou, 2003);
 }
 
-TEST_F(Lois, Bornes) {
+TEST_F(MagasinDeLois, Bornes) {
   EXPECT_EQ(creer_parabole(), reussite);
   const auto bornes = [] {
     double min = 0;

@@ -11,6 +11,7 @@
 struct gbd_clef_loi {
   int num_etat_lim = qb7_indefini;
   int num_materiau = qb7_indefini;
+  // NOLINTNEXTLINE(modernize-use-nullptr): the check sees a 0 in what the compiler writes
   friend constexpr auto operator<=>(const gbd_clef_loi&, const gbd_clef_loi&) = default;
 };
 
