@@ -6,6 +6,8 @@
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
+#include "Zof_Gestion_Sollicitations.hpp"
+#include "Zof_Gestion_justifications.hpp"
 #include "Zof_Options.hpp"
 #include "Zof_Utilitaires.hpp"
 
@@ -34,6 +36,8 @@ void loc_executer(const texte<4>& mot, bool& materiau, bool& erco) {
       zof_decoder_creer_materiau(erco);
       break;
     case "SECT"_mot: zof_decoder_creer_section(erco); break;
+    case "SOLL"_mot: zof_decoder_sollicitations(erco); break;
+    case "JUST"_mot: zof_traiter_justifications(erco); break;
     case "EDIT"_mot: zof_editer(erco); break;
     default: zof_attribut_incorrect(mot, erco); break;
   }
@@ -94,6 +98,7 @@ void zof_editer(bool& erco) {
   switch (clef(mot)) {
     case "SECT"_mot: zof_editer_dessiner_sections(erco); break;
     case "MATE"_mot: zof_editer_materiaux(erco); break;
+    case "SOLL"_mot: zof_editer_sollicitations_sections(); break;
     default: zof_attribut_incorrect(mot, erco); break;
   }
 }

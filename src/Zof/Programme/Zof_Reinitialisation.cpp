@@ -9,6 +9,8 @@
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
+#include "Zof_Gestion_Sollicitations.hpp"
+#include "Zof_Gestion_justifications.hpp"
 #include "Zof_Options.hpp"
 
 void zof_reinitialiser() {
@@ -22,4 +24,6 @@ void zof_reinitialiser() {
   zof_options_reinitialiser();
   gestion_materiau_reinitialiser();
   gestion_section_reinitialiser();
+  gestion_sollicitations_reinitialiser();
+  gestion_justifications_reinitialiser();
 }
