@@ -237,6 +237,50 @@ TEST_F(Efforts, LaTableRefuseCeQuiManque) {
   EXPECT_EQ(calculer(), (ier_2{ERR_NON_POINT, 2}));
 }
 
+// What the store never lets in.
+TEST_F(Efforts, UnTypeInconnuEstUneErreurInterne) {
+  creer_zone(1, 1, qb7_zone_contour, beton, carre);
+  gbd_zone* zone = section_du_moteur(1).lst_zones.lst_premier();
+  zone->type_zone = 1005;
+  EXPECT_EQ(calculer(), (ier_2{ERR_INTERNE, 1}));
+  zone->type_zone = qb7_zone_contour;
+  reussit(calculer());
+  gbd_glob.glob_lst_lois.lst_chercher_elt({el, beton})->type_trou = 2004;
+  qb7_err_effacer();
+  EXPECT_EQ(calculer(), (ier_2{ERR_INTERNE, 1}));
+  ASSERT_EQ(qb7_err_nbre_messages(), 2);
+  EXPECT_EQ(qb7_err.glob_tab_noms_procs[1].utile(), "LOC_Zone_Calcul");
+  EXPECT_EQ(qb7_err.glob_tab_noms_procs[2].utile(), "EFF_Section_Calcul");
+}
+
+TEST_F(Efforts, UnePaireInterditeEstJournaliseeSousLaListeDesFilles) {
+  creer_zone(1, 1, qb7_zone_semis, acier, {{0, 0}});
+  creer_zone(1, 2, qb7_zone_semis, acier, {{0, 0}});
+  reussit(qb7_fixer_num_zone_mere(1, 2, 1));
+  EXPECT_EQ(calculer(), (ier_2{ERR_TYPE_MERE, 2}));
+  EXPECT_EQ(qb7_err.glob_tab_noms_procs[1].utile(), "LOC_Liste_Filles");
+}
+
+// Bars without area and a profile without thickness weigh nothing.
+TEST_F(Efforts, SansMatiereRien) {
+  creer_zone(1, 1, qb7_zone_semis, acier, {{0.1, 0.1}});
+  creer_zone(1, 2, qb7_zone_profil, acier, {{0.1, 0.1}, {0.2, 0.1}});
+  reussit(calculer());
+  attendre(forces(plans[1]), {});
+}
+
+// A tensioned cable that is not bonded is a constant force without stiffness; bonded it follows the section.
+TEST_F(Efforts, UnCableAvantEtApresSonInjection) {
+  creer_zone(1, 1, qb7_zone_semis, acier, {{0, -0.1}});
+  reussit(qb7_fixer_param_zone(1, 1, 1e-3));
+  reussit(qb7_fixer_modif_lois_zone(1, 1, {.rho = 0, .epsilon_a = -0.0015, .epsilon_p = -0.0015}));
+  reussit(calculer());
+  for (const deformation& d : plans) attendre(forces(d), {{-0.3, 0.03, 0}, {}});
+  reussit(qb7_fixer_modif_lois_zone(1, 1, {.rho = 1, .epsilon_a = -0.0015, .epsilon_p = -0.0015}));
+  reussit(calculer());
+  attendre(forces({0.0004, 0, 0}), {{-0.22, 0.022, 0}, {200, -20, 2, 0, 0, 0}});
+}
+
 // Each limit that a zone passes, and the first zone in order of numbers.
 TEST_F(Efforts, LimitesDeDeformation) {
   creer_zone(1, 3, qb7_zone_contour, beton, carre);

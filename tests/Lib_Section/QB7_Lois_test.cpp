@@ -7,7 +7,7 @@
 
 namespace {
 
-class Lois : public moteur_vide {
+class ConstructeursDeLois : public moteur_vide {
  protected:
   static constexpr int mat = 1;
   static constexpr int el = etat_lim_de_test;
@@ -69,7 +69,7 @@ double loc_plus_grand_terme(const std::vector<double>& coeffs, double x) {
 
 }  // namespace
 
-TEST_F(Lois, ContraintesEtPentesDeReference) {
+TEST_F(ConstructeursDeLois, ContraintesEtPentesDeReference) {
   const auto materiaux = construire_lois_de_reference();
   const table_csv t = lire_csv(ZOF_DONNEES "/moteur/lois_valeurs.csv");
   for (std::size_t i = 0; i < t.lignes.size(); ++i) {
@@ -91,7 +91,7 @@ TEST_F(Lois, ContraintesEtPentesDeReference) {
   }
 }
 
-TEST_F(Lois, TablesDeReference) {
+TEST_F(ConstructeursDeLois, TablesDeReference) {
   const table_csv t = lire_csv(ZOF_DONNEES "/moteur/lois_tables.csv");
   for (std::size_t i = 0; i < t.lignes.size(); ++i) {
     SCOPED_TRACE("row " + t.texte(i, "row"));
@@ -119,7 +119,7 @@ TEST_F(Lois, TablesDeReference) {
 
 // The Young modulus of a law is its coefficient of degree 1 in the interval that holds strain 0, which lies
 // on the right of the knot at 0.
-TEST_F(Lois, MultiLinPasseParSesPoints) {
+TEST_F(ConstructeursDeLois, MultiLinPasseParSesPoints) {
   const std::array tab_epsilons = {-0.01, -0.002, 0.001, 0.02};
   const std::array tab_sigmas = {-500.0, -400.0, 200.0, 300.0};
   reussit(qb7_loi_multi_lin(mat, el, tab_epsilons, tab_sigmas, -0.005, 0.01, qb7_trou_matiere));
@@ -131,7 +131,7 @@ TEST_F(Lois, MultiLinPasseParSesPoints) {
   EXPECT_EQ(loi_du_moteur(mat).type_trou, qb7_trou_matiere);
 }
 
-TEST_F(Lois, MultiLinRefuse) {
+TEST_F(ConstructeursDeLois, MultiLinRefuse) {
   const std::array un = {0.0};
   const std::array deux = {0.0, 1.0};
   attendre_refus(qb7_loi_multi_lin(mat, el, un, un), {ERR_NBRE_INT_LOI, 0});
@@ -145,7 +145,7 @@ TEST_F(Lois, MultiLinRefuse) {
 }
 
 // Limits or a hole type that are refused leave no law behind.
-TEST_F(Lois, MultiLinRetireLaLoiDontLesBornesSontRefusees) {
+TEST_F(ConstructeursDeLois, MultiLinRetireLaLoiDontLesBornesSontRefusees) {
   const std::array deux = {0.0, 1.0};
   attendre_refus(qb7_loi_multi_lin(mat, el, deux, deux, 0.5, 0.5), {ERR_BORNES_LOI, mat});
   attendre_refus(qb7_loi_multi_lin(mat, el, deux, deux, {}, {}, 2004), {ERR_TYPE_TROU, 2004});
@@ -154,14 +154,14 @@ TEST_F(Lois, MultiLinRetireLaLoiDontLesBornesSontRefusees) {
   EXPECT_EQ(gbd_glob.glob_lst_lois.lst_longueur(), 1);
 }
 
-TEST_F(Lois, LinBilinTransformeLesLimitesDeContrainte) {
+TEST_F(ConstructeursDeLois, LinBilinTransformeLesLimitesDeContrainte) {
   reussit(qb7_loi_lin_bilin(mat, el, qb7_loi_lineaire, 200000, -400, sans));
   attendre_bornes(-0.002, sans);
   EXPECT_DOUBLE_EQ(sigma(-0.001), -200);
   EXPECT_DOUBLE_EQ(sigma(0.001), 200);
 }
 
-TEST_F(Lois, LinBilinDUnSeulCote) {
+TEST_F(ConstructeursDeLois, LinBilinDUnSeulCote) {
   reussit(qb7_loi_lin_bilin(mat, el, qb7_loi_compression_seule, 12000, {}, 18, qb7_trou_rien));
   EXPECT_EQ(sigma(-0.001), 0);
   EXPECT_DOUBLE_EQ(sigma(0.001), 12);
@@ -172,13 +172,13 @@ TEST_F(Lois, LinBilinDUnSeulCote) {
   EXPECT_DOUBLE_EQ(rdm_contrainte_materiau(loi_du_moteur(mat, el + 1), -0.001), -12);
 }
 
-TEST_F(Lois, LinBilinNulleSansModuleNiBorne) {
+TEST_F(ConstructeursDeLois, LinBilinNulleSansModuleNiBorne) {
   reussit(qb7_loi_lin_bilin(mat, el, qb7_loi_nulle, {}, {}, sans));
   EXPECT_EQ(sigma(0.5), 0);
   reussit(qb7_loi_lin_bilin(mat, el + 1, qb7_loi_nulle, 0.0));
 }
 
-TEST_F(Lois, LinBilinRefuse) {
+TEST_F(ConstructeursDeLois, LinBilinRefuse) {
   const auto refus = [](int type, std::optional<double> e, std::optional<double> min,
                         std::optional<double> max, const ier_2& attendu) {
     attendre_refus(qb7_loi_lin_bilin(mat, el, type, e, min, max), attendu);
@@ -198,7 +198,7 @@ TEST_F(Lois, LinBilinRefuse) {
   EXPECT_EQ(qb7_err.glob_tab_noms_procs[1].utile(), "QB7_LOI_Lin_Bilin");
 }
 
-TEST_F(Lois, ParaboleRectangleLimiteeParUneContrainte) {
+TEST_F(ConstructeursDeLois, ParaboleRectangleLimiteeParUneContrainte) {
   // sigma = 30 (1 - (1 - x)^2) = 18 at x = 1 - sqrt(0.4)
   reussit(qb7_loi_parabole_rectangle_avec_bornes(mat, el, 30, 0.002, 0.0035, true, 18));
   EXPECT_NEAR(loi_du_moteur(mat).epsilon_max, 0.002 * (1 - std::sqrt(0.4)), 1e-16);
@@ -208,12 +208,12 @@ TEST_F(Lois, ParaboleRectangleLimiteeParUneContrainte) {
 }
 
 // A limit that the parabola does not pass limits nothing: the crushing strain stays.
-TEST_F(Lois, ParaboleRectangleDontLaLimiteNEstPasAtteinte) {
+TEST_F(ConstructeursDeLois, ParaboleRectangleDontLaLimiteNEstPasAtteinte) {
   reussit(qb7_loi_parabole_rectangle_avec_bornes(mat, el, 30, 0.002, 0.0035, true, 30));
   attendre_bornes(sans, 0.0035);
 }
 
-TEST_F(Lois, LoisDeBetonRefusent) {
+TEST_F(ConstructeursDeLois, BetonsRefuses) {
   attendre_refus(qb7_loi_parabole_rectangle_avec_bornes(mat, el, 0, 0.002, 0.0035, false, 0),
                  {ERR_CONTRAINTE});
   attendre_refus(qb7_loi_parabole_rectangle_avec_bornes(mat, el, 20, 0.002, 0.0035, true, -1),
@@ -230,19 +230,19 @@ TEST_F(Lois, LoisDeBetonRefusent) {
   attendre_refus(qb7_loi_beton_bilin(mat, el, 20, 0.0035, 0.0035), {ERR_DEF_LOI, 3});
 }
 
-TEST_F(Lois, UnBetonSansPlateauEstAccepte) {
+TEST_F(ConstructeursDeLois, UnBetonSansPlateauEstAccepte) {
   reussit(qb7_loi_parabole_rectangle_avec_bornes(mat, el, 20, 0.003, 0.003, false, 0));
   attendre_bornes(sans, 0.003);
   reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el + 1, 1.5, 20, 0.003, 0.003, false, 0));
 }
 
 // EN 1992-1-1 table 3.1 gives C90/105 the exponent 1.4, here the value in single precision.
-TEST_F(Lois, LExposantDuC90EstAccepte) {
+TEST_F(ConstructeursDeLois, LExposantDuC90EstAccepte) {
   reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el, 1.399999976158142, 60, 0.0026, 0.0026, false, 0));
   reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el + 1, 2.0, 60, 0.0026, 0.0026, false, 0));
 }
 
-TEST_F(Lois, ParaboleDegreNDitSaFauteALaConsole) {
+TEST_F(ConstructeursDeLois, ParaboleDegreNDitSaFauteALaConsole) {
   systeme_memoire machine;
   const socle::systeme_en_place en_place(machine);
   attendre_refus(qb7_loi_parabole_degre_n_avec_bornes(mat, el, 1.5, 20, 0.004, 0.0035, false, 0),
@@ -251,7 +251,7 @@ TEST_F(Lois, ParaboleDegreNDitSaFauteALaConsole) {
   EXPECT_EQ(qb7_err.glob_tab_noms_procs[1].utile(), "QB7_LOI_Parabole_Degre_n_avec_b");
 }
 
-TEST_F(Lois, ParaboleDegreNEstContinueEtPlateAuSommet) {
+TEST_F(ConstructeursDeLois, ParaboleDegreNEstContinueEtPlateAuSommet) {
   reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el, 1.6, 45, 0.0022, 0.003, false, sans));
   const gbd_loi& loi = loi_du_moteur(mat);
   for (std::size_t k = 1; k < loi.epsilons.size(); ++k) {
@@ -264,12 +264,12 @@ TEST_F(Lois, ParaboleDegreNEstContinueEtPlateAuSommet) {
 }
 
 // In pascals 1e-10 lies under the rounding of a stress: the halving must end all the same.
-TEST_F(Lois, LaLimiteSeTrouveDansToutesLesUnites) {
+TEST_F(ConstructeursDeLois, LaLimiteSeTrouveDansToutesLesUnites) {
   reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el, 1.6, 45e6, 0.0022, 0.003, true, 27e6));
   EXPECT_NEAR(sigma(loi_du_moteur(mat).epsilon_max), 27e6, 1);
 }
 
-TEST_F(Lois, ElastoplastiqueBornesParLesContraintes) {
+TEST_F(ConstructeursDeLois, ElastoplastiqueBornesParLesContraintes) {
   int etat = el;
   const auto attendre = [&etat](double f_min, double f_max, double epsilon_min, double epsilon_max) {
     reussit(
@@ -284,7 +284,7 @@ TEST_F(Lois, ElastoplastiqueBornesParLesContraintes) {
   attendre(-441, 441, sans, sans);
 }
 
-TEST_F(Lois, ElastoplastiqueNonComprimeGardeSaBorneSuperieure) {
+TEST_F(ConstructeursDeLois, ElastoplastiqueNonComprimeGardeSaBorneSuperieure) {
   reussit(qb7_loi_elastoplastique_avec_bornes(mat, el, 0.002, 400, 0.02, 440, true, -300, 250, false,
                                               qb7_trou_rien));
   attendre_bornes(-0.0015, 0.00125);
@@ -293,12 +293,12 @@ TEST_F(Lois, ElastoplastiqueNonComprimeGardeSaBorneSuperieure) {
   EXPECT_EQ(loi_du_moteur(mat).type_trou, qb7_trou_rien);
 }
 
-TEST_F(Lois, ElastoplastiqueParfaitLimiteASonPalier) {
+TEST_F(ConstructeursDeLois, ElastoplastiqueParfaitLimiteASonPalier) {
   reussit(qb7_loi_elastoplastique_avec_bornes(mat, el, 0.002, 400, 0.02, 400, true, -400, 400, true));
   attendre_bornes(-0.02, 0.02);
 }
 
-TEST_F(Lois, ElastoplastiqueRefuse) {
+TEST_F(ConstructeursDeLois, ElastoplastiqueRefuse) {
   const auto construire = [](double f_palier, double f_rupture) {
     return qb7_loi_elastoplastique_avec_bornes(mat, el, 0.002, f_palier, 0.02, f_rupture, false, 0, 0, true);
   };
@@ -308,7 +308,7 @@ TEST_F(Lois, ElastoplastiqueRefuse) {
             (ier_2{ERR_DEF_LOI, 1}));
 }
 
-TEST_F(Lois, PassifPalierEtSesDefauts) {
+TEST_F(ConstructeursDeLois, PassifPalierEtSesDefauts) {
   reussit(qb7_loi_passif_palier(mat, el, 200000, 400));
   EXPECT_DOUBLE_EQ(sigma(-0.001), -200);
   EXPECT_NEAR(sigma(-0.009), -400, 1e-12);
@@ -318,7 +318,7 @@ TEST_F(Lois, PassifPalierEtSesDefauts) {
 }
 
 // The ultimate law of EN 1992-1-1 3.2.7 with a horizontal top branch.
-TEST_F(Lois, PassifEc2SansContrainteDeRuptureEstParfaitementPlastique) {
+TEST_F(ConstructeursDeLois, PassifEc2SansContrainteDeRuptureEstParfaitementPlastique) {
   reussit(qb7_loi_passif_ec2_elu(mat, el, 200000, 434, {}, 0.025, false));
   EXPECT_NEAR(sigma(-0.02), -434, 1e-12);
   EXPECT_NEAR(sigma(-0.001), -200, 1e-12);
@@ -326,7 +326,7 @@ TEST_F(Lois, PassifEc2SansContrainteDeRuptureEstParfaitementPlastique) {
   attendre_bornes(-0.025, sans);
 }
 
-TEST_F(Lois, PassifPalierRefuse) {
+TEST_F(ConstructeursDeLois, PassifPalierRefuse) {
   attendre_refus(qb7_loi_passif_palier(mat, el, 200000, 0), {ERR_CONTRAINTE});
   attendre_refus(qb7_loi_passif_palier(mat, el, 200000, 400, 399), {ERR_CONTRAINTE});
   attendre_refus(qb7_loi_passif_palier(mat, el, 0, 400), {ERR_MODULE});
@@ -337,7 +337,7 @@ TEST_F(Lois, PassifPalierRefuse) {
   EXPECT_EQ(qb7_err.glob_tab_noms_procs[2].utile(), "QB7_LOI_Passif_EC2_ELU");
 }
 
-TEST_F(Lois, LoisUnites) {
+TEST_F(ConstructeursDeLois, LoisUnites) {
   const std::array etats = {1001, 1002, 1003};
   reussit(qb7_loi_beton_meca(1, etats));
   reussit(qb7_loi_charpente_meca(2, etats));
@@ -364,7 +364,7 @@ TEST_F(Lois, LoisUnites) {
   }
 }
 
-TEST_F(Lois, LoisUnitesRefusent) {
+TEST_F(ConstructeursDeLois, LoisUnitesRefusent) {
   attendre_refus(qb7_loi_beton_meca(1, std::array{1, 2}), {ERR_DIM_TAB, 2});
   EXPECT_EQ(qb7_loi_passif_meca(1, std::array{1, 2, 3}, 0), (ier_2{ERR_MODULE, 3}));
   EXPECT_EQ(qb7_loi_passif_meca(1, std::array{4, 1, 5}, 15), (ier_2{ERR_LOI_EXISTE, 2}));
