@@ -175,7 +175,8 @@ TEST_F(CommandeMate, LesNomsSontCommunsAToutesLesFamilles) {
 }
 
 TEST_F(CommandeMate, UneFamilleInconnueEstRefusee) {
-  verifier_refus("MATE BOIS B TITR 'b'", mot_incorrect("BOIS"));
+  for (const std::string famille : {"BOIS", "PREC", "CHAR", "SPEC"})
+    verifier_refus("MATE " + famille + " M TITR 'b'", mot_incorrect(famille));
   const course c = executer_bloc("MATE BETO 'C30'");
   EXPECT_EQ(c.statut, 1);
   EXPECT_THAT(c.console, HasSubstr("     - TERME LU INCORRECT : AUTRE QUE NOM"));
