@@ -111,7 +111,8 @@ TEST(IntegrationContour, BlocParaboleRectangleEntier) {
   loc_proches(r.eff, {n, n * (0.3 - 99.0 / 238 * 0.6), 0}, 1e-14);
 }
 
-// Neutral axis along the diagonal of a square: a triangle is compressed, from 0 on its base to eps_c1 at the corner.
+// Neutral axis along the diagonal of a square: a triangle is compressed, from 0 on its base to eps_c1 at the
+// corner.
 TEST(IntegrationContour, TriangleComprimeSousFlexionDeviee) {
   const double h = std::sqrt(0.5) * 0.4;  // half diagonal of the square 0.4 x 0.4
   const points_t carre = {{0.2, 0.2}, {-0.2, 0.2}, {-0.2, -0.2}, {0.2, -0.2}};

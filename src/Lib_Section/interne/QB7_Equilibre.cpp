@@ -1,9 +1,6 @@
 #include "QB7_Equilibre.hpp"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <initializer_list>
 #include <limits>
 #include <string>
 #include <string_view>

@@ -1,11 +1,10 @@
 #include "QB7_RDM.hpp"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
 #include <optional>
+#include <span>
 
 #include "QB7_ERR_Erreurs.hpp"
 #include "RAC_Racines.hpp"
