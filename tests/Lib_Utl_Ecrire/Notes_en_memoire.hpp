@@ -12,6 +12,11 @@
 #include "UTL_02_Ecriture_Resu.hpp"
 
 class Notes : public ::testing::Test {
+ public:
+  Notes(const Notes&) = delete;
+  Notes& operator=(const Notes&) = delete;
+  ~Notes() override { utl_02_reinitialiser(); }
+
  protected:
   Notes() {
     utl_02_reinitialiser();
@@ -30,9 +35,6 @@ class Notes : public ::testing::Test {
                         .opt_profondeur_sommaire_voulue = 10,
                         .opt_langue_entete = std::string_view("fr")});
   }
-  ~Notes() override { utl_02_reinitialiser(); }
-  Notes(const Notes&) = delete;
-  Notes& operator=(const Notes&) = delete;
 
   /// What the notes received since the last look.
   std::string txt() { return std::exchange(machine.fichiers["n.txt"], {}); }

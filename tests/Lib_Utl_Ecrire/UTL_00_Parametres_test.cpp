@@ -11,7 +11,7 @@ namespace {
 
 class ListeModules : public ::testing::Test {
  protected:
-  std::string titre(int module) {
+  static std::string titre(int module) {
     texte<300> t("ancien");
     utl_00_lire_titre_module(module, t);
     return std::string(t.utile());
