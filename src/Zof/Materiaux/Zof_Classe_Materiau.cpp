@@ -32,9 +32,10 @@ bool zof_materiau::existe_label_situation_materiau(const texte<32>& label_situat
 int zof_materiau::get_categorie_zone_section() const { return m_categorie_zone_section; }
 
 bool zof_materiau::existe_type_situation_materiau(int type_situation) const {
+  bool existe = false;
   for (const zof_situation_materiau& situation : uef_parcours<zof_situation_materiau>(m_les_situations))
-    if (situation.get_type_situation_projet() == type_situation) return true;
-  return false;
+    existe = existe || situation.get_type_situation_projet() == type_situation;
+  return existe;
 }
 
 void zof_materiau::controle_situations_materiau(bool& erco) const {
