@@ -261,7 +261,7 @@ std::vector<zof_effort> zof_get_efforts_etat_limite_sollicitations_ponderes(
   const selection s(nom_section, nom_sollicitations, no_etat_limite, opt_no_phase);
   const action a = s.ponderee(label_effort);
   std::vector<zof_effort> cas;
-  cas.reserve(static_cast<std::size_t>(a.nb_efforts() * a.nb_cas()));
+  cas.reserve(a.les_efforts.size() * static_cast<std::size_t>(a.nb_cas()));
   loc_ajouter_seule(a, label_effort.octets(), s.fin_de_titre(), cas);
   return cas;
 }
