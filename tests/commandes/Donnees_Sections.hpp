@@ -1,9 +1,13 @@
 // Data shared by the tests of the loadings and of the analyses: materials, and sections made of them.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace donnees {
+
+/// Where the first command stands, behind the line of the word ZOF.
+inline constexpr std::size_t premiere_commande = 4;
 
 inline const std::string beton_arme = R"(ZOF
 MATE BETON C30 TITR 'Beton C30/37' FCK 30. PREC NON FIN_MATE

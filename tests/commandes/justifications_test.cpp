@@ -222,8 +222,9 @@ TEST(Justification, LesOptionsValentPourCeQuiSuit) {
 
 // Without editer only the failures reach the console, and nothing the notes.
 TEST(Justification, SansEditionSeulsLesEchecsSontDits) {
-  const modele lu(prisme + soll_prisme("T", "ELS CARA", "EFFO GQ N 1. FIN_EFFO") + "FIN_\n");
-  ASSERT_FALSE(lu.erreur()) << lu.console();
+  const modele lu(prisme.substr(donnees::premiere_commande) +
+                  soll_prisme("T", "ELS CARA", "EFFO GQ N 1. FIN_EFFO") + "FIN_\n");
+  ASSERT_FALSE(lu.erco()) << lu.console();
   zof_activer_section("PRISME");
   zof_cadre_justification cadre{
       "PRISME", "EXPLOITATION_SERVICE", "ELS_CAR", true, zof_get_numero_qb7_section("PRISME"), 1006};

@@ -31,8 +31,9 @@ class Stockage : public ::testing::Test {
   /// Reads the file to its end without an error; the loadings stay until the end of the test.
   void lire(const std::string& donnees_section, const std::string& commandes) {
     lu.reset();
-    lu = std::make_unique<modele>(donnees_section + commandes + "\nFIN_\n");
-    ASSERT_FALSE(lu->erreur()) << lu->console();
+    lu =
+        std::make_unique<modele>(donnees_section.substr(donnees::premiere_commande) + commandes + "\nFIN_\n");
+    ASSERT_FALSE(lu->erco()) << lu->console();
   }
   static const zof_sollicitations& t(const texte<32>& section = "POUTRE") {
     return zof_get_pt_sollicitations(section, "T");
