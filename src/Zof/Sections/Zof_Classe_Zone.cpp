@@ -33,22 +33,22 @@ double loc_distance_au_cote(point_yz p, point_yz a, point_yz b) {
 zof_zone* zof_zone::zone_mere() const { return dynamic_cast<zof_zone*>(m_p_zone_mere); }
 
 int zof_zone::get_numero_courant_point_section_qb7() const {
-  return m_p_zone_mere->get_numero_courant_point_section_qb7();
+  return m_p_section_mere->get_numero_courant_point_section_qb7();
 }
 int zof_zone::get_numero_courant_qb7_zone_generalisee() const {
-  return m_p_zone_mere->get_numero_courant_qb7_zone_generalisee();
+  return m_p_section_mere->get_numero_courant_qb7_zone_generalisee();
 }
 int zof_zone::get_numero_courant_point_zone_type() const {
-  return m_p_zone_mere->get_numero_courant_point_zone_type();
+  return m_p_section_mere->get_numero_courant_point_zone_type();
 }
 void zof_zone::inc_numero_courant_point_section_qb7() {
-  m_p_zone_mere->inc_numero_courant_point_section_qb7();
+  m_p_section_mere->inc_numero_courant_point_section_qb7();
 }
 void zof_zone::inc_numero_courant_point_zone_type(int& numero) {
-  m_p_zone_mere->inc_numero_courant_point_zone_type(numero);
+  m_p_section_mere->inc_numero_courant_point_zone_type(numero);
 }
 void zof_zone::inc_numero_courant_qb7_zone_generalisee() {
-  m_p_zone_mere->inc_numero_courant_qb7_zone_generalisee();
+  m_p_section_mere->inc_numero_courant_qb7_zone_generalisee();
 }
 
 void zof_zone::noter_contenu(nature_zone nature_fille) {

@@ -73,7 +73,7 @@ struct zof_zone : zof_zone_generalisee {
   /// The zone that holds this one; null at the first level of the section.
   [[nodiscard]] zof_zone* zone_mere() const;
 
-  // ---- Running numbers are the section's: a zone hands the request to its mother.
+  // ---- Running numbers are the section's.
   [[nodiscard]] int get_numero_courant_point_section_qb7() const override;
   [[nodiscard]] int get_numero_courant_qb7_zone_generalisee() const override;
   [[nodiscard]] int get_numero_courant_point_zone_type() const override;

@@ -97,27 +97,6 @@ testing::AssertionResult egaux(const polygone& a, const polygone& b) {
   return testing::AssertionSuccess();
 }
 
-/// The messages of a refused text, without the heading.
-std::string messages(const std::string& donnees) {
-  modele m(donnees);
-  EXPECT_FALSE(m.lire()) << donnees;
-  const std::string listing = m.listing();
-  const auto debut = listing.find("Erreur de commande :\n");
-  EXPECT_NE(debut, std::string::npos) << m.console();
-  return debut == std::string::npos ? m.console() : listing.substr(debut + 21);
-}
-
-struct refus {
-  std::string donnees;
-  std::string message;
-};
-
-void verifier_refus(const std::vector<refus>& cas) {
-  for (const refus& r : cas) EXPECT_EQ(messages(r.donnees), "     - " + r.message + "\n") << r.donnees;
-}
-
-std::string l1(std::string_view texte) { return std::string(texte); }
-
 }  // namespace
 
 // ---- Properties against values from outside
@@ -487,4 +466,302 @@ TEST(Zone, RefusDesCharpentes) {
         " Duplication de profil :    12"}});
   EXPECT_EQ(messages(section(deux + profil + "MATE S355 MATE")),
             "       - Repetition interdite du mot clef:MATE\n");
+}
+
+// ---- Symmetry
+
+namespace {
+
+polygone points_de(const std::string& zone) {
+  return zof_get_pt_nom_zone_section("S1", texte<32>(zone))->positions_points();
+}
+
+}  // namespace
+
+// SYME Y: the axis Y is the axis of symmetry. The half is listed from axis to axis; its images close the
+// outline.
+TEST(Symetrie, UnDemiContourSeFerme) {
+  modele m(contour("PART " + points({{-1, 0}, {-1, -0.5}, {1, -0.5}, {1, 0}}), "SYME Y"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_TRUE(egaux(points_de("C1"), {{-1, 0}, {-1, -0.5}, {1, -0.5}, {1, 0}, {1, 0.5}, {-1, 0.5}}));
+  const zof_zone& zone = *zof_get_pt_nom_zone_section("S1", "C1");
+  EXPECT_THAT(numeros_points(zone), ElementsAre(1, 2, 3, 4, 40001, 40002));
+  const zof_point image = zof_cp_point(*zone.m_les_points_zone.case_element(5).m_ptr_element);
+  EXPECT_EQ(image.m_numero_point_sym_cible, 3);
+  EXPECT_EQ(image.m_ix_point_sym_cible, 3);
+  EXPECT_NEAR(zone.aire_zone(), 2, 1e-15);
+}
+
+TEST(Symetrie, SymeZChangeY) {
+  modele m(contour("PART " + points({{0, -1}, {0.5, -1}, {0.3, 1}, {0, 1}}), "SYME Z"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_TRUE(egaux(points_de("C1"), {{0, -1}, {0.5, -1}, {0.3, 1}, {0, 1}, {-0.3, 1}, {-0.5, -1}}));
+}
+
+// One point in double symmetry is a rectangle, in whichever quarter it stands.
+TEST(Symetrie, UnQuartDUnPointEstUnRectangle) {
+  for (const point_yz coin : {point_yz{0.3, 0.2}, {-0.3, 0.2}, {-0.3, -0.2}, {0.3, -0.2}}) {
+    modele m(contour("PART " + points({coin}), "SYME YZ"));
+    ASSERT_TRUE(m.lire()) << m.console();
+    EXPECT_EQ(points_de("C1").size(), 4U);
+    EXPECT_NEAR(zof_get_pt_nom_zone_section("S1", "C1")->aire_zone(), 0.24, 1e-15);
+  }
+}
+
+TEST(Symetrie, UnPointSurLAxeNAPasDImage) {
+  const std::string corps = "POIN NUME 1 Y 0. Z 0.001D0 FIN_ NUME 2 Y 0.1D0 Z 0.2D0 FIN_ FIN_POIN";
+  modele m(section("CONT C1 MATE BA RECT HAUT 0.5 LARG 0.3 FIN_ FERR F1 MATE HA DIAM 20. PART " + corps +
+                       " FIN_FERR FIN_CONT",
+                   "SYME Y"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_TRUE(egaux(points_de("F1"), {{0, 0.001}, {0.1, 0.2}, {0.1, -0.2}}));
+}
+
+// Bars: the listed points, then their images in the same order, by Z and then by Y of all so far.
+TEST(Symetrie, BarresEnDoubleSymetrie) {
+  modele m(section("CONT C1 MATE BA RECT HAUT 0.5 LARG 0.5 FIN_ FERR F1 MATE HA DIAM 20. PART " +
+                       points({{0.1, 0.2}, {0.2, 0.1}}) + " FIN_FERR FIN_CONT",
+                   "SYME YZ"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_TRUE(egaux(points_de("F1"), {{0.1, 0.2},
+                                      {0.2, 0.1},
+                                      {-0.1, 0.2},
+                                      {-0.2, 0.1},
+                                      {0.1, -0.2},
+                                      {0.2, -0.1},
+                                      {-0.1, -0.2},
+                                      {-0.2, -0.1}}));
+}
+
+// A profile from the axis outwards gets its image, one across the axis between images, one on the axis none.
+TEST(Symetrie, ProfilsDUneCharpente) {
+  modele m(section(
+      "CHAR H1 MATE S355 PART " + points({{0, 0}, {0, 0.4}, {0.2, 0.4}}) +
+          "PROF NUME 4 ORIG 1 EXTR 2 EPAI 10. FIN_ NUME 7 ORIG 2 EXTR 3 EPAI 20. FIN_ FIN_PROF FIN_CHAR",
+      "SYME Z"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  const auto& zone = *zof_get_pt_charpente_externe("S1");
+  ASSERT_EQ(zone.m_les_profils_charpente.nombre(), 3);
+  const zof_profil image = zof_cp_profil(*zone.m_les_profils_charpente.case_element(3).m_ptr_element);
+  EXPECT_EQ(image.m_numero_profil, 8);
+  EXPECT_EQ(image.m_no_point_origine, 2);
+  EXPECT_EQ(image.m_no_point_extremite, 40001);
+  EXPECT_EQ(image.m_epaisseur_profil, 0.02);
+  EXPECT_EQ(zone.numeros_zones_qb7().size(), 3U);
+}
+
+TEST(Symetrie, Refus) {
+  verifier_refus({{contour("PART"),
+                   l1(" l option PARTIELLE ne doit etre définie que si l option SYMETRIE est activee"_l1)},
+                  {contour("RECT HAUT 1. LARG 1. FIN_ FERR F1 MATE HA DIAM 8. POIN NUME 1 Y 0. Z 0. FIN_ "
+                           "FIN_POIN FIN_FERR PART",
+                           "SYME Y"),
+                   "Il est interdit de redefinir une forme typee"},
+                  {contour("EVID E1 RECT HAUT 1. LARG 1. FIN_ FIN_ PART", "SYME Z"),
+                   " l option PARTIELLE doit preceder les sous zones"},
+                  {contour("PART " + points({{0, 1}}), "SYME Y"),
+                   "  Symetrie : Y ou Z : Un contour partiel doit comporter au moins deux points"},
+                  {contour("RECT HAUT 2. LARG 2. FIN_ EVID E1 PART " + points({{0, 0.5}}) + "FIN_", "SYME Z"),
+                   "  Symetrie : Y ou Z : Un evidement partiel doit comporter au moins deux points"},
+                  {contour("SYME"), " Mot clef  SYME incorrect dans ce contexte"}});
+  EXPECT_EQ(messages(contour("PART PART", "SYME Y")), "       - Repetition interdite du mot clef:PART\n");
+}
+
+// ---- Points inside their mother
+
+TEST(Interieur, UnContourQuiToucheSonContourPasse) {
+  // Flush on two sides, and a point half a millimetre outside.
+  modele m(contour("RECT HAUT 1.D0 LARG 1.D0 FIN_ EVID E1 " +
+                   points({{0.5, 0.5}, {-0.5005, 0.5}, {-0.5, 0}, {0.5, 0}}) + "FIN_"));
+  EXPECT_TRUE(m.lire()) << m.console();
+}
+
+TEST(Interieur, Refus) {
+  verifier_refus(
+      {{barres("POIN NUME 12 Y 0.2 Z 0. FIN_ FIN_POIN"), " Point    12 de la zone F1 exterieur a la zone C1"},
+       // In the notch of an L, level with one of its corners.
+       {contour(points(corniere) +
+                "FERR F1 MATE HA DIAM 8. POIN NUME 1 Y 0.4D0 Z 0.2D0 FIN_ NUME 2 Y 0.4D0 Z 0.8D0 FIN_ "
+                "FIN_POIN FIN_FERR"),
+        " Point     2 de la zone F1 exterieur a la zone C1"},
+       {rectangle("GAIN G1 DIAM 100. POIN NUME 1 Y 0. Z 0. FIN_ FIN_POIN PREC P1 MATE TORON AIRE 10. POIN "
+                  "NUME 3 Y 0. Z 0.06D0 "
+                  "FIN_ FIN_POIN FIN_PREC FIN_GAIN"),
+        l1(" Présence  de câbles alors que le materiau n'est pas du type béton precontraint"_l1)},
+       {section("CONT C1 MATE BP RECT HAUT 1. LARG 1. FIN_ GAIN G1 DIAM 100. POIN NUME 1 Y 0. Z 0. FIN_ "
+                "FIN_POIN PREC P1 "
+                "MATE TORON AIRE 10. POIN NUME 3 Y 0. Z 0.06D0 FIN_ FIN_POIN FIN_PREC FIN_GAIN FIN_CONT"),
+        " Point     3 de la zone P1 exterieur a la zone G1"}});
+}
+
+// ---- The section
+
+TEST(Section, Refus) {
+  const std::string titre_absent = "Titre: non renseigne(e)";
+  const std::string carre = "CONT C1 MATE BA RECT HAUT 1. LARG 1. FIN_ FIN_CONT ";
+  verifier_refus({{section(""), "Aucune entite definie dans section"},
+                  {"SECT S1 FIN_SECT\n", titre_absent + "\n     - Aucune entite definie dans section"},
+                  {"SECT S1 " + carre + "FIN_SECT\n", titre_absent},
+                  {section(carre + "MORP"), " Mot clef  MORP incorrect dans ce contexte"}});
+}
+
+TEST(Section, LaSymetriePrecedeLesZones) {
+  const std::string carre = "CONT C1 MATE BA RECT HAUT 1. LARG 1. FIN_ FIN_CONT ";
+  verifier_refus({{section(carre + "SYME"), "Cette option doit preceder la definition des zones"},
+                  {section("SYME Y SYME"), "Repetition interdite du mot clef:SYME"},
+                  {section("SYME X"), " Mot clef  X    incorrect dans ce contexte"},
+                  {section("EVID"), " Mot clef  EVID incorrect dans ce contexte"},
+                  {section(carre + "CONT C1"), " Cette zone existe deja"}});
+  EXPECT_EQ(messages(section("TITR")), "       - Repetition interdite du mot clef:TITR\n");
+}
+
+TEST(Section, UnNomSeLitEnEntier) {
+  const std::string corps = " TITR 'x' CONT C1 MATE BA RECT HAUT 1. LARG 1. FIN_ FIN_CONT FIN_SECT\n";
+  modele m("SECT POTEAU_1" + corps + "SECT POTEAU_2" + corps + "SECT POTEAU_1" + corps);
+  EXPECT_FALSE(m.lire());
+  EXPECT_THAT(m.listing(), HasSubstr("     -  La section POTEAU_1 existe deja\n"));
+  EXPECT_EQ(zof_get_numero_qb7_section("POTEAU_2"), 2);
+}
+
+// The last concrete is the main material; structural steel after concrete does not take its place.
+TEST(Section, MateriauPrincipal) {
+  const auto zone = [](const std::string& nom, const std::string& materiau) {
+    return "CONT " + nom + " MATE " + materiau + " RECT HAUT 1. LARG 1. FIN_ FIN_CONT ";
+  };
+  const std::vector<std::pair<std::string, std::string>> cas{
+      {zone("ZA", "BA") + zone("ZB", "BP"), "BP"},
+      {zone("ZA", "BA") + zone("ZB", "S355"), "BA"},
+      {zone("ZA", "S355") + zone("ZB", "BA"), "BA"},
+      {zone("ZA", "GENE") + zone("ZB", "S355"), "GENE"}};
+  for (const auto& [corps, attendu] : cas) {
+    modele m(section(corps));
+    ASSERT_TRUE(m.lire()) << m.console();
+    EXPECT_EQ(zof_get_nom_materiau_principal_section("S1"), texte<32>(attendu));
+  }
+}
+
+TEST(Section, Questions) {
+  modele m(
+      section("CONT C1 MATE BA RECT HAUT 1. LARG 1. FIN_ FERR F1 MATE HA DIAM 20. POIN NUME 1 Y 0. Z 0. FIN_ "
+              "FIN_POIN FIN_FERR\n"
+              "EVID E1 RECT HAUT 0.2 LARG 0.2 FIN_ FIN_ FIN_CONT CONT C2 MATE BA RECT HAUT 2. LARG 2. FIN_ "
+              "FIN_CONT"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_TRUE(zof_existe_section("S1"));
+  EXPECT_FALSE(zof_existe_section("S2"));
+  EXPECT_EQ(zof_get_pt_section("S2"), nullptr);
+  EXPECT_EQ(zof_get_nombre_zones_section("S1"), 4);
+  EXPECT_EQ(zof_get_pt_zone_section("S1", 2)->get_nom_zone(), texte<32>("F1"));
+  EXPECT_EQ(zof_get_nom_materiau_zone_section("S1", "F1"), texte<32>("HA"));
+  EXPECT_EQ(zof_get_nombre_materiau_section("S1"), 2);
+  EXPECT_EQ(zof_get_nombre_type_zone_section("S1", nature_zone::contour), 2);
+  EXPECT_EQ(zof_get_pt_contour_externe("S1")->get_nom_zone(), texte<32>("C1"));
+  EXPECT_EQ(zof_get_pt_charpente_externe("S1"), nullptr);
+  EXPECT_TRUE(zof_est_section_ferraillee("S1"));
+  EXPECT_FALSE(zof_est_section_ferraillage_dimensionnable("S1"));
+  EXPECT_FALSE(zof_est_section_precontrainte("S1"));
+  EXPECT_FALSE(zof_existe_precontrainte_section("S1", "F1"));
+  EXPECT_FALSE(zof_existe_cable_section("S1", "F1", 1));
+  EXPECT_TRUE(zof_existe_situation_section("S1", "EXPLOITATION_SERVICE"));
+  EXPECT_FALSE(zof_existe_situation_section("S1", "CONSTRUCTION"));
+  EXPECT_TRUE(zof_existe_etat_limite_situation_section("S1", "EXPLOITATION_SERVICE", "MECA_NET"));
+  EXPECT_FALSE(zof_existe_etat_limite_situation_section("S1", "EXPLOITATION_SERVICE", "ELU_DURABLE"));
+}
+
+TEST(Section, UneSectionInconnueArreteLaCourse) {
+  modele m("STOP\n");
+  EXPECT_EQ(statut_d_arret([] { static_cast<void>(zof_get_numero_qb7_section("S1")); }), 1);
+  EXPECT_THAT(m.console(), HasSubstr("Zof_Get_Pt_Section : Cas impossible"));
+}
+
+// Bars and ducts count with half their diameter, outlines do not.
+TEST(Section, Emprise) {
+  modele m(
+      contour("RECT HAUT 0.5D0 LARG 0.3D0 FIN_ FERR F1 MATE HA DIAM 40. POIN NUME 1 Y 0.14D0 Z 0. FIN_ "
+              "FIN_POIN FIN_FERR"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  zof_section& s = *zof_get_pt_section("S1");
+  zof_emprise_section(s);
+  EXPECT_NEAR(s.m_y_min_max[0], -0.15, 1e-15);
+  EXPECT_NEAR(s.m_y_min_max[1], 0.16, 1e-15);
+  EXPECT_NEAR(s.m_z_min_max[0], -0.25, 1e-15);
+  EXPECT_NEAR(s.m_z_min_max[1], 0.25, 1e-15);
+}
+
+namespace {
+
+std::vector<bool> activites() {
+  std::vector<bool> resultat;
+  for (const zof_zone* const zone : zof_lister_zones_section("S1"))
+    for (const int numero : zone->numeros_zones_qb7()) {
+      bool active = false;
+      EXPECT_EQ(qb7_activite_zone(1, numero, active), ier_2{});
+      resultat.push_back(active);
+    }
+  return resultat;
+}
+
+}  // namespace
+
+// A later command inherits neither planes nor histories of tendons.
+TEST(Section, ActiverRepartDeZero) {
+  modele m(
+      section("CONT C1 MATE BP RECT HAUT 1. LARG 0.5 FIN_ PREC P1 MATE TORON AIRE 1500. POIN NUME 5 Y 0. Z "
+              "0. FIN_ FIN_POIN "
+              "FIN_PREC FIN_CONT"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  const int cable = zof_get_numero_qb7_cable_section("S1", "P1", 5);
+  EXPECT_THAT(activites(), ElementsAre(false, false));
+  ASSERT_EQ(qb7_fixer_deform_zone(1, 1, false, qb7_deform_cumulee, {1e-3, 0, 0}), ier_2{});
+  ASSERT_EQ(qb7_fixer_modif_lois_zone(1, cable, {0, 1e-3, 0, 1e-3, 1e-3, 0}), ier_2{});
+  zof_activer_section("S1", true);
+  EXPECT_THAT(activites(), ElementsAre(true, false));
+  int type = 0;
+  deformation plan;
+  ASSERT_EQ(qb7_lire_deform_zone(1, 1, type, plan), ier_2{});
+  EXPECT_EQ(plan, deformation{});
+  modif_lois histoire;
+  ASSERT_EQ(qb7_lire_modif_lois_zone(1, cable, histoire), ier_2{});
+  EXPECT_EQ(histoire, modif_lois{});
+  zof_activer_section("S1");
+  EXPECT_THAT(activites(), ElementsAre(true, true));
+  zof_desactiver_cables_section("S1");
+  EXPECT_THAT(activites(), ElementsAre(true, false));
+  zof_desactiver_section("S1");
+  EXPECT_THAT(activites(), ElementsAre(false, false));
+}
+
+// Two rectangles side by side, the second with bars: the frame of each, and of both; the activity stays.
+TEST(Section, RepereBrutDeZonesNommees) {
+  modele m(section("CONT ZA MATE BA " + points({{0, 0}, {1, 0}, {1, 1}, {0, 1}}) +
+                   "FIN_CONT CONT ZB MATE BA " + points({{1, 0}, {3, 0}, {3, 1}, {1, 1}}) +
+                   "FERR F1 MATE HA DIAM 20. " + points({{2.5, 0.5}}) + "FIN_FERR FIN_CONT"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  ASSERT_EQ(qb7_activer_zone(1, 2, true, false), ier_2{});
+  const std::array<texte<32>, 1> a{"ZA"};
+  EXPECT_NEAR(zof_get_repere_brut_section("S1", a).y, 0.5, 1e-14);
+  EXPECT_NEAR(zof_get_repere_brut_section("S1", a).z, 0.5, 1e-14);
+  EXPECT_GT(zof_get_repere_brut_section("S1", std::array<texte<32>, 1>{"ZB"}).y, 1.99);
+  EXPECT_NEAR(zof_get_repere_brut_section("S1").z, 0.5, 1e-14);
+  EXPECT_THAT(activites(), ElementsAre(false, true, false));
+}
+
+// Thousands of zones nested in one another are read without a stack of calls.
+TEST(Section, ZonesEmboiteesSansLimite) {
+  std::string debut;
+  for (int i = 0; i < 4000; ++i)
+    debut += "CONT C" + std::to_string(i) + " MATE BA EVID E" + std::to_string(i) + "\n";
+  modele m(section(debut + "POIN FIN_POIN\n"));
+  EXPECT_FALSE(m.lire());
+  EXPECT_NE(m.listing().find(" Aucun point n est defini"), std::string::npos);
+}
+
+// A mother's copy has points of its own.
+TEST(Zone, UneCopieASesPropresPoints) {
+  modele m(rectangle(""));
+  ASSERT_TRUE(m.lire()) << m.console();
+  const zof_contour& original = *zof_get_pt_contour_externe("S1");
+  const auto copie = original.cloner();
+  uef_pointage<zof_point> { static_cast<zof_contour&>(*copie).m_les_points_zone, 1 } -> m_y = 5;
+  EXPECT_NEAR(original.positions_points()[0].y, 0.15, 1e-15);
 }

@@ -1,9 +1,12 @@
 // A model in memory: the six kinds of materials, and sections read from text as a run reads them.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Lecteur.hpp"
 #include "Outils.hpp"
@@ -109,3 +112,24 @@ inline std::string rectangle(const std::string& corps) {
 inline std::string barres(const std::string& corps) {
   return rectangle("FERR F1 MATE HA DIAM 20.D0 " + corps + " FIN_FERR");
 }
+
+/// The messages of a refused text, without the heading.
+inline std::string messages(const std::string& donnees) {
+  modele m(donnees);
+  EXPECT_FALSE(m.lire()) << donnees;
+  const std::string listing = m.listing();
+  const auto debut = listing.find("Erreur de commande :\n");
+  EXPECT_NE(debut, std::string::npos) << m.console();
+  return debut == std::string::npos ? m.console() : listing.substr(debut + 21);
+}
+
+struct refus {
+  std::string donnees;
+  std::string message;
+};
+
+inline void verifier_refus(const std::vector<refus>& cas) {
+  for (const refus& r : cas) EXPECT_EQ(messages(r.donnees), "     - " + r.message + "\n") << r.donnees;
+}
+
+inline std::string l1(std::string_view texte) { return std::string(texte); }
