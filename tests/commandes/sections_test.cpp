@@ -69,9 +69,9 @@ TEST(CommandeSect, LaNoteDonneProprietesEtZones) {
   const course c = lancer(poutre + "EDIT SECT POUTRE\n");
   EXPECT_EQ(c.statut, 0) << c.console;
   EXPECT_THAT(c.txt, HasSubstr("Section : POUTRE - Poutre 30 x 60"));
-  const std::string brutes = std::string("Caractéristiques brutes : "_l1);
-  const std::string nettes = std::string("Caractéristiques nettes : "_l1);
-  const std::string homogenes = std::string("Caractéristiques homogeneisees (n=15) : "_l1);
+  const std::string brutes = std::string("Caractéristiques brutes :\n"_l1);
+  const std::string nettes = std::string("Caractéristiques nettes :\n"_l1);
+  const std::string homogenes = std::string("Caractéristiques homogeneisees (n=15) :\n"_l1);
   const auto debut_brutes = c.txt.find(brutes);
   const auto debut_nettes = c.txt.find(nettes);
   const auto debut_homogenes = c.txt.find(homogenes);
@@ -83,6 +83,7 @@ TEST(CommandeSect, LaNoteDonneProprietesEtZones) {
   const std::string groupe_homogene = c.txt.substr(debut_homogenes);
   for (const std::string& groupe : {groupe_brut, groupe_net}) {
     EXPECT_THAT(groupe, HasSubstr("Aire      (m2) : 0.18000"));
+    EXPECT_THAT(groupe, HasSubstr("y cdg      (m) : 0.0000"));
     EXPECT_THAT(groupe, HasSubstr("Inertie y (m4) : 0.54000E-02"));
     EXPECT_THAT(groupe, HasSubstr("Inertie z (m4) : 0.13500E-02"));
   }
