@@ -206,6 +206,18 @@ TEST(Justification, BornesDepasseesSansControle) {
                         "d&#233;pass&#233;e sous : trop</b>"));
 }
 
+// The squares of these forces overflow: no plane carries them, with bounds or without.
+TEST(Justification, DesEffortsDemesuresNeSontPasEnEquilibre) {
+  const course c =
+      executer(prisme +
+               soll_prisme("T", "ELS CARA",
+                           "EFFO GQ N 1.D200 TITR 'n' FIN_EFFO EFFO GQ MY -1.D250 TITR 'my' FIN_EFFO") +
+               "JUST PRISME SOLL T DEFO NON_ SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console, Not(HasSubstr("==> Equilibre")));
+  EXPECT_THAT(c.console, HasSubstr("==> Non Equilibre sous :n\n==> Non Equilibre sous :my\n"));
+}
+
 // Options act on the SOLL that follow them: the first has the defaults, the second is unbounded, the third
 // again not.
 TEST(Justification, LesOptionsValentPourCeQuiSuit) {
@@ -303,6 +315,15 @@ TEST(PivotC, NAjouteRienEnService) {
                             "JUST POTEAU PIVO JUST SOLL T FIN_JUST\nFIN_\n");
   EXPECT_EQ(c.statut, 0) << c.listing;
   EXPECT_THAT(c.console, Not(HasSubstr("Pivot C")));
+}
+
+// A frame beyond all measure gives strains that are no numbers: the pivot is not declared sound.
+TEST(PivotC, UneDeformationQuiNEnEstPasUneNEstPasJustifiee) {
+  const course c = executer(
+      poteau + soll_poteau("Y 1.D250 Z -1.D250 ANGL 0.", "ELU DURA", "EFFO GQ N 1. TITR 'e' FIN_EFFO") +
+      "JUST POTEAU PIVO JUST SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console, HasSubstr("==> Non Equilibre sous :e\n==> Pivot C -FUT : Non justifie\n"));
 }
 
 // ---- Frames

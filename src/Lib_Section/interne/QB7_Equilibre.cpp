@@ -120,9 +120,11 @@ void loc_integrer(iteration_newton& it) {
                                                   qb7_par.qb7_par_precis_efforts, qb7_par.qb7_par_max_iter);
 }
 
-/// One real pass is always made, so that a start which happens to fit is looked at twice.
+/// One real pass is always made, so that a start which happens to fit is looked at twice. Forces whose
+/// squares overflow are met by no plane, though both sides are then infinite.
 bool loc_equilibre_atteint(const iteration_newton& it) {
-  return it.nbre_iter != 1 && it.residu_efforts_2 <= it.epsilon_efforts_2;
+  return it.nbre_iter != 1 && std::isfinite(it.residu_efforts_2) &&
+         it.residu_efforts_2 <= it.epsilon_efforts_2;
 }
 
 /// The first step is tiny on purpose: it leaves a plane that may lie on the knots of every law, of zero

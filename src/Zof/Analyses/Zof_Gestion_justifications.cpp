@@ -134,7 +134,7 @@ double loc_deformation_pic(const zof_zone& zone, const texte<32>& label_situatio
 }
 
 void loc_editer_pivot_c(std::string_view nom_zone, double deformation_cdg, double limite) {
-  const bool depasse = deformation_cdg > limite;
+  const bool depasse = !(deformation_cdg <= limite);  // a strain that is not a number holds nothing
   utl_02_ecrire_titre(concat({"Justification du pivot C : ", nom_zone}), 3);
   loc_console(depasse ? concat({"==> Pivot C -", nom_zone, " : Non justifie"})
                       : concat({"==> Pivot C - ", nom_zone, " : justifie"}));
