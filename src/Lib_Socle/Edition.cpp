@@ -21,12 +21,13 @@ std::string loc_cadrer(int largeur, std::string_view v) {
 }
 
 /// As loc_cadrer, after dropping the zero in front of the point when the text is one too long.
-std::string loc_cadrer_reel(int largeur, std::string& v) {
-  if (static_cast<int>(v.size()) > largeur) {
-    const std::size_t debut = v.front() == '-' ? 1 : 0;
-    if (v.size() > debut + 2 && v[debut] == '0' && v[debut + 1] == '.') v.erase(debut, 1);
-  }
-  return loc_cadrer(largeur, v);
+std::string loc_cadrer_reel(int largeur, std::string_view v) {
+  if (static_cast<int>(v.size()) <= largeur) return loc_cadrer(largeur, v);
+  const std::size_t debut = v.front() == '-' ? 1 : 0;
+  if (v.size() < debut + 3 || v[debut] != '0' || v[debut + 1] != '.') return loc_cadrer(largeur, v);
+  std::string court(v);
+  court.erase(debut, 1);
+  return loc_cadrer(largeur, court);
 }
 
 std::string loc_non_fini(int largeur, double v) {
@@ -70,35 +71,41 @@ std::string edite(F f, double v) {
   const auto fin =
       std::to_chars(tampon.data(), tampon.data() + tampon.size(), v, std::chars_format::fixed, f.decimales)
           .ptr;
-  std::string resultat(tampon.data(), fin);
-  if (f.decimales == 0) resultat += '.';
-  return loc_cadrer_reel(f.largeur, resultat);
+  char* ecrit = fin;
+  if (f.decimales == 0) *ecrit++ = '.';
+  return loc_cadrer_reel(f.largeur, {tampon.data(), static_cast<std::size_t>(ecrit - tampon.data())});
 }
 
 std::string edite(E f, double v) {
   if (!std::isfinite(v)) return loc_non_fini(f.largeur, v);
-  std::array<char, 64> tampon{};
+  std::array<char, 64> scientifique{};  // d.ddde+xx
   const int chiffres = std::clamp(f.decimales, 1, 40);
-  const auto fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), v,
+  const auto fin = std::to_chars(scientifique.data(), scientifique.data() + scientifique.size(), v,
                                  std::chars_format::scientific, chiffres - 1)
                        .ptr;
-  // d.ddde+xx becomes 0.ddddE+yy, with yy = xx + 1.
-  const std::string_view brut(tampon.data(), static_cast<std::size_t>(fin - tampon.data()));
-  const std::size_t place_e = brut.find('e');
+  std::string_view mantisse(scientifique.data(), static_cast<std::size_t>(fin - scientifique.data()));
+  const std::size_t place_e = mantisse.find('e');
+  const std::string_view puissance = mantisse.substr(place_e + 1);
+  mantisse = mantisse.substr(0, place_e);
+  if (mantisse.front() == '-') mantisse.remove_prefix(1);
   int exposant = 0;
-  const std::size_t signe = brut[place_e + 1] == '+' ? 2 : 1;
-  std::from_chars(brut.data() + place_e + signe, brut.data() + brut.size(), exposant);
-  if (v != 0) ++exposant;
+  std::from_chars(puissance.data() + 1, puissance.data() + puissance.size(), exposant);
+  if (puissance.front() == '-') exposant = -exposant;
+  if (v != 0) ++exposant;  // d.ddd 10^x is 0.dddd 10^(x + 1)
 
-  std::string resultat(std::signbit(v) ? "-0." : "0.");
-  for (const char c : brut.substr(0, place_e))
-    if (c >= '0' && c <= '9') resultat += c;
+  std::array<char, 64> edition{};
+  char* ecrit = edition.data();
+  if (std::signbit(v)) *ecrit++ = '-';
+  *ecrit++ = '0';
+  *ecrit++ = '.';
+  *ecrit++ = mantisse.front();
+  if (chiffres > 1) ecrit = std::copy_n(mantisse.data() + 2, chiffres - 1, ecrit);
   const int grandeur = std::abs(exposant);
-  if (grandeur < 100) resultat += f.lettre;
-  resultat += exposant < 0 ? '-' : '+';
-  if (grandeur < 10) resultat += '0';
-  resultat += std::to_string(grandeur);
-  return loc_cadrer_reel(f.largeur, resultat);
+  if (grandeur < 100) *ecrit++ = f.lettre;
+  *ecrit++ = exposant < 0 ? '-' : '+';
+  if (grandeur < 10) *ecrit++ = '0';
+  ecrit = std::to_chars(ecrit, edition.data() + edition.size(), grandeur).ptr;
+  return loc_cadrer_reel(f.largeur, {edition.data(), static_cast<std::size_t>(ecrit - edition.data())});
 }
 
 std::string edite(G f, double v) { return loc_edite_g(f, v); }
@@ -130,7 +137,8 @@ std::string edite(const format& f, double v) {
 
 std::string ajuste_gauche(std::string v) {
   const std::size_t n = std::min(v.find_first_not_of(' '), v.size());
-  std::rotate(v.begin(), v.begin() + static_cast<std::ptrdiff_t>(n), v.end());
+  v.erase(0, n);
+  v.append(n, ' ');
   return v;
 }
 
