@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Executer.hpp"
+#include "Modele.hpp"
 #include "Systeme_memoire.hpp"
 #include "Zof_Options.hpp"
 #include "Zof_Principal.hpp"
@@ -25,6 +26,27 @@ int loc_lancer(systeme_memoire& machine, std::vector<std::string_view> arguments
   return zof_executer(arguments, machine);
 }
 
+/// What notes the names of the run when these have just been given, and does nothing else.
+class machine_temoin final : public socle::systeme {
+ public:
+  socle::sortie& console() override { return memoire_.console(); }
+  std::unique_ptr<socle::entree> ouvrir(socle::vue_l1) override { return nullptr; }
+  std::unique_ptr<socle::sortie> creer(socle::vue_l1, socle::debut) override { return nullptr; }
+  void refaire_repertoire(socle::vue_l1) override { noms = zof_options; }
+  std::string repertoire_programme() override { return {}; }
+
+  zof_options_t noms;
+
+ private:
+  systeme_memoire memoire_;
+};
+
+/// The line in that many columns.
+std::string loc_ligne(std::string texte, std::size_t colonnes) {
+  texte.resize(colonnes, ' ');
+  return texte + "\n";
+}
+
 bool loc_note_fermee(const course& c) { return c.html.find("</html>") != std::string::npos; }
 
 }  // namespace
@@ -32,10 +54,9 @@ bool loc_note_fermee(const course& c) { return c.html.find("</html>") != std::st
 TEST(Programme, UnFichierMinimalDonneDeuxNotesFermees) {
   const course c = executer("ZOF\nFIN_\n");
   EXPECT_EQ(c.statut, 0);
-  EXPECT_THAT(c.console, StartsWith("Version de ZOF : 7.06"));
-  EXPECT_THAT(c.console, EndsWith("FIN DE L EXECUTION\n"));
-  EXPECT_THAT(c.listing, EndsWith(" \n \nExecution de Zof terminee\n"));
-  EXPECT_THAT(c.listing, StartsWith("ZOF "));
+  EXPECT_EQ(c.console, "Version de ZOF : 7.06  \n" + loc_ligne("ZOF", 199) + loc_ligne("FIN_", 199) +
+                           "FIN DE L EXECUTION\n");
+  EXPECT_EQ(c.listing, loc_ligne("ZOF", 200) + loc_ligne("FIN_", 200) + " \n \nExecution de Zof terminee\n");
   EXPECT_THAT(c.txt, HasSubstr("1. ZOF - Note de calcul"));
   EXPECT_THAT(c.html, HasSubstr("Calcul ZOF version 7.06"));
   EXPECT_TRUE(loc_note_fermee(c));
@@ -66,6 +87,16 @@ TEST(Programme, LesDeuxSeparateursComptentDansLeNom) {
   EXPECT_TRUE(machine.fichiers.contains("a.b/c.d/e.html"));
 }
 
+TEST(Programme, LesNomsDeLaCourse) {
+  machine_temoin machine;
+  const std::array<std::string_view, 1> arguments = {"a.b/c.d\\e.zof"};
+  EXPECT_EQ(zof_executer(arguments, machine), 1);
+  EXPECT_EQ(machine.noms.glo_racine_nom_fichier.utile(), "a.b/c.d\\e");
+  EXPECT_EQ(machine.noms.glo_racine_nette_nom_fichier.utile(), "e");
+  EXPECT_EQ(machine.noms.glo_racine_nom_fichier_svg.utile(), "a.b/c.d\\Svg_e\\");
+  EXPECT_EQ(machine.noms.glo_repertoire_svg.utile(), "Svg_e\\");
+}
+
 TEST(Programme, QuatreCaracteresSontRetiresQuelsQuIlsSoient) {
   systeme_memoire machine;
   machine.fichiers["etude.zof"] = "ZOF\nFIN_\n";
@@ -91,6 +122,18 @@ TEST(Programme, UnNomTropLongNeLitAucuneCommande) {
   EXPECT_THAT(machine.texte_console, EndsWith("FIN DE L EXECUTION\n"));
   EXPECT_THAT(machine.texte_console, Not(HasSubstr("TITR")));
   EXPECT_THAT(machine.fichiers[std::string(252, 'a') + ".err"], Not(HasSubstr("terminee")));
+}
+
+// The directory that is removed is the one of the drawings, never what a cut name happens to be.
+TEST(Programme, UnNomTropLongNEnleveQueSesDessins) {
+  const std::string repertoire = std::string(249, 'd') + "/etude";  // 255 characters
+  systeme_memoire machine;
+  machine.fichiers[repertoire + "/autre.txt"] = "precieux";
+  machine.fichiers[repertoire + "/Svg_e/x.svg"] = "ancien";
+  EXPECT_EQ(loc_lancer(machine, {repertoire + "/e.zof"}), 1);
+  EXPECT_THAT(machine.repertoires_refaits, ElementsAre(repertoire + "/Svg_e"));
+  EXPECT_TRUE(machine.fichiers.contains(repertoire + "/autre.txt"));
+  EXPECT_FALSE(machine.fichiers.contains(repertoire + "/Svg_e/x.svg"));
 }
 
 TEST(Programme, ChaqueOuvertureManqueeASonMessage) {
@@ -122,12 +165,44 @@ TEST(Programme, LePremierMotEstZof) {
   }
 }
 
+// The reader has told its error already: nothing is said of the first word, and the run fails.
+TEST(Programme, UnPremierTermeQuiNEstPasUnNom) {
+  const course c = executer("12 ZOF\nFIN_\n");
+  EXPECT_EQ(c.statut, 1);
+  EXPECT_THAT(c.console, EndsWith("     - TERME LU : 12\n     - TERME LU INCORRECT : AUTRE QUE NOM \n"
+                                  "FIN DE L EXECUTION\n"));
+  EXPECT_THAT(c.listing, Not(HasSubstr("terminee")));
+  EXPECT_TRUE(loc_note_fermee(c));
+}
+
 // Upper and lower case are one, and a command word counts by its first four letters.
 TEST(Programme, LaCasseEtLaFinDesMotsNeComptentPas) {
   const course c = executer("zof\nTitre 'Un pont'\nfin_\nTITR 'pas lu'\n");
   EXPECT_EQ(c.statut, 0);
   EXPECT_THAT(c.txt, HasSubstr("2. Un pont"));
   EXPECT_THAT(c.console, Not(HasSubstr("pas lu")));
+}
+
+// What stands in front of a wrong term is served first.
+TEST(Programme, LaFinDevantUnTermeFaux) {
+  EXPECT_EQ(executer("ZOF\nFIN_ZOF 12.5.\n").statut, 0);
+  const course c = executer("ZOF\nTITR 'x' 12.5.\nFIN_\n");
+  EXPECT_EQ(c.statut, 1);
+  EXPECT_THAT(c.txt, HasSubstr("2. x"));
+}
+
+TEST(Programme, UnBlocSansSonMotDeFinLaisseLesNotesOuvertes) {
+  const course c =
+      executer("ZOF\nTITR 'x'\nMATERIAUX ACIER S500 TITR 'a' FYK 500. TYPE T_B FIN_SECT\nFIN_\n");
+  const std::string messages =
+      "Erreur de commande : \n"
+      "     - FIN_SECTIncorrect dans ce contexte - Attendu : FIN_MATE\n"
+      "ARRET PREMATURE DE ZOF\n";
+  EXPECT_EQ(c.statut, 1);
+  EXPECT_THAT(c.console, EndsWith(messages));
+  EXPECT_THAT(c.listing, EndsWith(messages));
+  EXPECT_THAT(c.txt, HasSubstr("2. x"));
+  EXPECT_FALSE(loc_note_fermee(c));
 }
 
 TEST(Programme, UnMotInconnuTermineLaCourse) {
@@ -179,6 +254,40 @@ TEST(Programme, OptionRetoRegardeLeMotSuivant) {
   const course d = executer("ZOF\nOPTI RETO 12\nFIN_\n");
   EXPECT_EQ(d.statut, 1);
   EXPECT_THAT(d.console, HasSubstr("     - TERME LU : 12\n"));
+}
+
+TEST(Programme, OptionsParDefaut) {
+  const zof_options_t o;
+  EXPECT_TRUE(o.zof_edition_txt);
+  EXPECT_TRUE(o.zof_edition_html);
+  EXPECT_FALSE(o.zof_option_retour_etat_0);
+  EXPECT_EQ(o.zof_type_option_retour_etat_0, retour_etat_0::identique);
+  EXPECT_TRUE(o.zof_option_loi_ponderee);
+  EXPECT_EQ(o.zof_option_ponderation_lois_ct_lt, 0.25);
+}
+
+TEST(Programme, CeQueLesOptionsReglent) {
+  const auto reglees = [](const std::string& donnees) {
+    const modele m(donnees);
+    EXPECT_FALSE(m.erco()) << donnees;
+    return zof_options;
+  };
+  const auto retour = [&](const std::string& donnees) {
+    const zof_options_t o = reglees(donnees);
+    EXPECT_TRUE(o.zof_option_retour_etat_0) << donnees;
+    EXPECT_FALSE(o.zof_option_loi_ponderee) << donnees;
+    EXPECT_EQ(o.zof_option_ponderation_lois_ct_lt, 0) << donnees;
+    return static_cast<int>(o.zof_type_option_retour_etat_0);
+  };
+  EXPECT_EQ(retour("OPTI RETO INST\nFIN_\n"), 1);
+  EXPECT_EQ(retour("opti retour instantane\nFIN_\n"), 1);
+  EXPECT_EQ(retour("OPTI RETO IDEN\nFIN_\n"), 2);
+  EXPECT_EQ(retour("OPTI RETO INST OPTI RETO\nMATE ACIER S500 TITR 'a' FYK 500. TYPE T_B FIN_MATE\nFIN_\n"),
+            2);
+  const zof_options_t o = reglees("OPTI RETO INST\nOPTI POND\nFIN_\n");
+  EXPECT_FALSE(o.zof_option_retour_etat_0);
+  EXPECT_TRUE(o.zof_option_loi_ponderee);
+  EXPECT_EQ(o.zof_option_ponderation_lois_ct_lt, 0.25);
 }
 
 TEST(Programme, EditerVeutUnMotConnu) {

@@ -48,8 +48,10 @@ texte<266> zof_execution(std::span<const std::string_view> arguments) {
   return argument(1);
 }
 
-/// Names of the run, all from the data file's: both separators of directories count.
-void loc_nommer(const texte<266>& nom_fichier) {
+/// Names of the run, all from the data file's: both separators of directories count. Gives the path of the
+/// drawings in its full length: a name too long for its field, cut, may be that of another directory, and
+/// this one is to be removed.
+std::string loc_nommer(const texte<266>& nom_fichier) {
   const std::string_view nom = nom_fichier.utile();
   const std::string_view racine = nom.substr(0, nom.size() > 4 ? nom.size() - 4 : 0);
   const std::size_t separateur = racine.find_last_of("/\\");
@@ -59,6 +61,7 @@ void loc_nommer(const texte<266>& nom_fichier) {
   zof_options.glo_racine_nette_nom_fichier = racine_nette;
   zof_options.glo_racine_nom_fichier_svg = concat({chemin, "Svg_", racine_nette, "\\"});
   zof_options.glo_repertoire_svg = concat({"Svg_", racine_nette, "\\"});
+  return concat({chemin, "Svg_", racine_nette});
 }
 
 std::string loc_fichier(vue_l1 extension) {
@@ -151,8 +154,7 @@ int zof_principal(std::span<const std::string_view> arguments) {
   const texte<266> nom_fichier = zof_execution(arguments);
   bool erco = false;
   zof_assert_commande(nom_fichier.utile().size() <= 255, "Nom de fichier ou de repertoire trop long", erco);
-  loc_nommer(nom_fichier);
-  le_systeme().refaire_repertoire(zof_options.glo_racine_nom_fichier_svg.utile());
+  le_systeme().refaire_repertoire(loc_nommer(nom_fichier));
   and_initialiser_anadon();
   and_initialiser_variables();
   fichiers_de_course fichiers;
