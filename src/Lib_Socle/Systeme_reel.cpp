@@ -16,6 +16,14 @@
 namespace socle {
 namespace {
 
+/// A standard stream that the caller closed would be taken by the first file of the run, which then gets the
+/// console. In its place comes one that refuses what is written, as a closed one does.
+void loc_occuper_flux_standard() {
+  int d = STDIN_FILENO;
+  while (d >= 0 && d <= STDERR_FILENO) d = open("/dev/null", O_RDONLY);
+  if (d > STDERR_FILENO) close(d);
+}
+
 constexpr std::size_t taille_tampon = 1U << 16U;
 
 /// The path as the file system takes it: "\" separates like "/".
@@ -126,6 +134,7 @@ class entree_descripteur final : public entree {
 systeme_reel::systeme_reel()
     : console_(std::make_unique<sortie_descripteur>(*this, "la console", STDOUT_FILENO)) {
   std::signal(SIGPIPE, SIG_IGN);
+  loc_occuper_flux_standard();
 }
 systeme_reel::~systeme_reel() = default;
 

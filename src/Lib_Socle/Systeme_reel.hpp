@@ -10,7 +10,8 @@ namespace socle {
 
 class systeme_reel final : public systeme {
  public:
-  /// A closed pipe must not kill the process: its signal is ignored from here on.
+  /// A closed pipe must not kill the process: its signal is ignored from here on. A standard stream that is
+  /// closed stays so for the run's files.
   systeme_reel();
   ~systeme_reel() override;
   sortie& console() override;

@@ -57,6 +57,11 @@ if [ -e /dev/full ]; then
   [ $? -eq 1 ] && grep -q 'plein/a.txt' erreurs || { echo 'a full disk under the note: status or message'; fautes=1; }
 fi
 
+# Closed standard streams: no file of the run takes their place, and what the console lost is told by the status.
+"$zof" a.zof <&- >&- 2>erreurs
+[ $? -eq 1 ] && grep -q 'la console' erreurs || { echo 'a closed console: status or message'; fautes=1; }
+LC_ALL=C grep -a -q -e 'FIN DE L EXECUTION' a.err && { echo 'a closed console: its lines stand in the listing'; fautes=1; }
+
 # A reader that goes away must not kill the run.
 yes '$ commentaire' | head -n 20000 | sed '1s/^/ZOF\n/' >tube.zof
 printf 'FIN_\n' >>tube.zof
