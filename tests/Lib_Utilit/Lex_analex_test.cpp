@@ -249,6 +249,17 @@ TEST(LectureLigne, LEchoSuitLaLongueurFixee) {
   EXPECT_EQ(l.console(), "ABCD\n");
 }
 
+TEST(LectureLigne, LeSecondEchoEstLeMeme) {
+  lecteur l("ABC $ d\n");
+  l.avec_echo_des_lignes();
+  lex_analex.lex_unite_echo_donnees_lues_bis = lex_analex.lex_unite_echo_donnees_lues;
+  lex_analex.lex_lg_fixee_ligne_fichier_donnees = 7;
+  lex_ligne zone{};
+  int lglue = 0;
+  lex_lecture_ligne_donnees(zone, lglue);
+  EXPECT_EQ(l.console(), "ABC $ d\nABC $ d\n");
+}
+
 TEST(LectureLigne, LEchoSuspenduGardeLaLigne) {
   lecteur l("ABC $ d\n");
   l.avec_echo_des_lignes();

@@ -253,6 +253,7 @@ TEST(Paroi, DeuxFacesParalleles) {
   EXPECT_NEAR(p.m_le_segment_moyen.m_le_point_origine.m_z, 0.1, 1e-15);
   EXPECT_NEAR(p.m_le_segment_moyen.m_le_centre.m_y, 2, 1e-15);
   EXPECT_EQ(p.m_la_position, 7);
+  EXPECT_EQ(p.m_le_segment_moyen.m_la_position, 7);
   EXPECT_EQ(p.m_le_numero_paroi, 12);
 }
 
