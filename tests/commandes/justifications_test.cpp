@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <fstream>
+#include <ostream>
 #include <sstream>
 
 #include "Donnees_Sections.hpp"
@@ -435,6 +436,7 @@ struct refus {
   std::string message;
 };
 
+void PrintTo(const refus& r, std::ostream* sortie) { *sortie << r.nom; }
 std::string nom_du_refus(const ::testing::TestParamInfo<refus>& cas) { return cas.param.nom; }
 
 class RefusJust : public ::testing::TestWithParam<refus> {};

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <numbers>
+#include <ostream>
 
 #include "Donnees_Sections.hpp"
 #include "Executer.hpp"
@@ -313,6 +314,7 @@ struct refus {
   std::string message;  // line of the listing behind its dash
 };
 
+void PrintTo(const refus& r, std::ostream* sortie) { *sortie << r.nom; }
 std::string nom_du_refus(const ::testing::TestParamInfo<refus>& cas) { return cas.param.nom; }
 
 class Refus : public ::testing::TestWithParam<refus> {};
