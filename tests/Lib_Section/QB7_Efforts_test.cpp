@@ -180,6 +180,43 @@ TEST_F(Efforts, UnSousContourEtSesFilles) {
   EXPECT_EQ(eff_surface_zone(3), 0);              // no material
 }
 
+// Empty, it contributes nothing itself, and still takes out of its mother what lies in it.
+TEST_F(Efforts, UnSousContourVideOteEncoreSesFilles) {
+  const std::vector<point_yz> trou = {{0.05, 0.05}, {-0.05, 0.05}, {-0.05, -0.05}, {0.05, -0.05}};
+  creer_zone(1, 1, qb7_zone_contour, beton, carre);
+  creer_zone(1, 2, qb7_zone_sous_contour, elastique, vide);
+  creer_zone(1, 3, qb7_zone_contour, qb7_sans_materiau, trou);
+  reussit(qb7_fixer_num_zone_mere(1, 2, 1));
+  reussit(qb7_fixer_num_zone_mere(1, 3, 2));
+  reussit(qb7_fixer_c_remplissage(1, 2, 0));
+  reussit(calculer());
+  for (const deformation& d : plans) attendre(forces(d), du_carre(d) - du_carre(d, trou));
+}
+
+// What is taken out is what the mother would have had there: her law and her plane, whatever the daughter's.
+TEST_F(Efforts, UnTrouSuitLaLoiEtLePlanDeSaMere) {
+  const std::vector<point_yz> gaine = {{0.05, -0.1}};
+  const deformation de_la_mere = {0.0003, 0.001, 0};
+  creer_zone(1, 1, qb7_zone_contour, beton, carre);
+  creer_zone(1, 2, qb7_zone_semis, acier, gaine);
+  reussit(qb7_fixer_type_trou(acier, el, qb7_trou_encombrement));
+  reussit(qb7_fixer_param_zone(1, 2, 1e-3, 4e-3));
+  reussit(qb7_fixer_num_zone_mere(1, 2, 1));
+  reussit(qb7_fixer_deform_zone(1, 1, false, qb7_deform_cumulee, de_la_mere));
+  reussit(qb7_fixer_deform_zone(1, 2, false, qb7_deform_imposee, {-0.001, 0, 0}));
+  reussit(calculer());
+  for (const deformation& d : plans) {
+    const resultante mere = du_carre(d + de_la_mere) - des_barres(d + de_la_mere, gaine, 4e-3, beton);
+    attendre(forces(d), mere + resultante{{-0.2, 0.02, 0.01}, {}} +
+                            resultante{{}, des_barres({-0.001, 0, 0}, gaine, 1e-3, acier).mat});
+  }
+  // before it is tensioned a cable is a hole all the same
+  reussit(qb7_activer_zone(1, 2, false, false));
+  reussit(calculer());
+  const deformation d = plans[1] + de_la_mere;
+  attendre(forces(plans[1]), du_carre(d) - des_barres(d, gaine, 4e-3, beton));
+}
+
 TEST_F(Efforts, UnSousContourDansDeLaMatiereNeRemplitRienALEtatMecanique) {
   creer_zone(1, 1, qb7_zone_contour, beton, carre);
   creer_zone(1, 2, qb7_zone_sous_contour, elastique, vide);
@@ -290,6 +327,10 @@ TEST_F(Efforts, LimitesDeDeformation) {
   ier_2 ier;
   forces({0.0034, 0, 0}, &ier);
   EXPECT_EQ(ier, ier_2{});
+  forces({0.0035, 0, 0}, &ier);  // reached, not passed
+  EXPECT_EQ(ier, ier_2{});
+  forces({-0.01, 0, 0}, &ier);
+  EXPECT_EQ(ier, ier_2{});
   forces({0.0036, 0, 0}, &ier);
   EXPECT_EQ(ier, (ier_2{ERR_EPSILON_LIM, 3}));
   forces({-0.0101, 0, 0}, &ier);
@@ -301,6 +342,17 @@ TEST_F(Efforts, LimitesDeDeformation) {
   EXPECT_GT(f.n, 3);
   EXPECT_EQ(qb7_deformer_section(1, el, {0.0036, 0, 0}, f), (ier_2{ERR_EPSILON_LIM, 3}));
   EXPECT_EQ(f, efforts{});
+  EXPECT_EQ(qb7_err.glob_tab_noms_procs[1].utile(), "QB7_Deformer_Section");
+}
+
+// Points that design leaves aside are judged here like the others.
+TEST_F(Efforts, LesLimitesSeJugentATousLesPoints) {
+  creer_zone(1, 3, qb7_zone_contour, beton, carre);
+  reussit(qb7_fixer_critiques(1, 3, std::array{1, 2}, false));
+  reussit(calculer());
+  ier_2 ier;
+  forces({0.002, 0.01, 0}, &ier);  // 0.004 at the two upper points
+  EXPECT_EQ(ier, (ier_2{ERR_EPSILON_LIM, 3}));
 }
 
 // A cable: its limits are those of the strain on its own law, and epsilon_z counts.

@@ -37,6 +37,14 @@ class Equilibre : public moteur_vide {
     return n;
   }
 
+  /// The numbers behind each occurrence of a motif.
+  static std::vector<double> lire(const std::string& texte, const std::string& motif) {
+    std::vector<double> lus;
+    for (auto p = texte.find(motif); p != std::string::npos; p = texte.find(motif, p + 1))
+      lus.push_back(std::stod(texte.substr(p + motif.size())));
+    return lus;
+  }
+
   static void section_armee() {
     creer_zone(1, 1, qb7_zone_contour, beton, rectangle);
     creer_zone(1, 2, qb7_zone_semis, acier, nappe_basse);
@@ -142,6 +150,99 @@ TEST_F(Equilibre, UnDepartQuiEstLaSolutionPrendDeuxPasses) {
   const std::string texte = trace();
   EXPECT_EQ(compter(texte, "     Iteration       : "), 2);
   EXPECT_EQ(compter(texte, "               ==> Equilibre atteint  -  Residu    :"), 1);
+}
+
+// The first step is 1e-10 of the elastic one; the second one is that of Newton.
+TEST_F(Equilibre, LePremierPasEstMinuscule) {
+  creer_zone(1, 1, qb7_zone_contour, elastique, rectangle);
+  tracer();
+  deformation d;
+  reussit(solliciter({0.9, 0, 0}, d));
+  const auto pas = lire(trace(), " - Inc def : ");
+  ASSERT_EQ(pas.size(), 3U);
+  EXPECT_EQ(pas[0], 0);
+  EXPECT_NEAR(pas[1], 1e-10 * 0.9 / 5400, 1e-20);
+  EXPECT_NEAR(pas[2], 0.9 / 5400, 1e-11);
+}
+
+// A residual r within the tolerance t, 1e-5 of the forces or 1e-8 where there are none, is taken away whole
+// by the one step that is always made; of a larger one that step takes the share (t / r)^2 only.
+TEST_F(Equilibre, LaToleranceSurLeResidu) {
+  creer_zone(1, 1, qb7_zone_contour, elastique, rectangle);
+  const auto part_restante = [this](double n, double residu) {
+    tracer();
+    deformation d = {(n - residu) / 5400, 0, 0};
+    reussit(solliciter({n, 0, 0}, d));
+    EXPECT_EQ(compter(trace(), "     Iteration       : "), 2);
+    return (n - 5400 * d.e0) / residu;
+  };
+  for (const auto& [n, tolerance] : {std::pair{0.9, 0.9e-5}, std::pair{0.0, 1e-8}}) {
+    EXPECT_NEAR(part_restante(n, 0.99 * tolerance), 0, 1e-9);
+    EXPECT_NEAR(part_restante(n, 1.01 * tolerance), 1 - 1 / (1.01 * 1.01), 1e-9);
+  }
+}
+
+// 1 MPa at 0.001, then a hundred times stiffer. Newton leaps from 0 to 0.003, past the largest plane allowed,
+// and starts again from the best plane, which is that of the tiny first step, with steps half as long:
+// 0.0015, and then back by half of what is left, each residual half of the one before, to (3 - 1)/1e5 above
+// the knot.
+TEST_F(Equilibre, UnRedemarragePartDuMeilleurPlanAvecDesPasMoitiesPlusCourts) {
+  reussit(qb7_loi_multi_lin(9, el, std::array{-0.001, 0.001, 0.002}, std::array{-1.0, 1.0, 101.0}));
+  creer_zone(1, 1, qb7_zone_contour, 9, rectangle);
+  qb7_par.qb7_par_deform_max = 0.002;
+  tracer();
+  deformation d;
+  reussit(solliciter({3 * 0.18, 0, 0}, d));
+  EXPECT_NEAR(d.e0, 0.001 + 2e-5, 1e-9);
+  const std::string texte = trace();
+  EXPECT_THAT(lire(texte, "               ==> Nouveau facteur de reduction des increments  :"),
+              testing::ElementsAre(2));
+  const auto pas = lire(texte, " - Inc def : ");
+  ASSERT_GE(pas.size(), 8U);
+  EXPECT_NEAR(pas[2], 0.003, 1e-10);
+  EXPECT_EQ(pas[3], 0);
+  EXPECT_NEAR(pas[4], 0.0015, 1e-10);
+  EXPECT_NEAR(pas[5], 0.00048 / 2, 1e-10);
+  for (std::size_t i = 6; i < pas.size(); ++i) EXPECT_NEAR(pas[i] / pas[i - 1], 0.5, 1e-4);
+}
+
+// Without forces no plane is ever the best one, and a restart goes back to zero: here that is the
+// equilibrium.
+TEST_F(Equilibre, SansEffortsUnRedemarrageRevientAuPlanNul) {
+  section_armee();
+  qb7_par.qb7_par_deform_max = 1e-6;
+  tracer();
+  deformation d = {0.0001, 0.0002, 0};
+  reussit(solliciter({}, d));
+  EXPECT_EQ(d, deformation{});
+  EXPECT_EQ(compter(trace(), "               ==> Nouveau facteur de reduction des increments  :"), 1);
+}
+
+// Four bars: the lowest eigenvalue is that of the bending about z, 80 y^2.
+TEST_F(Equilibre, LaPlusPetiteRaideurUtilisable) {
+  for (const auto& [c3, attendu] : {std::pair{1.01e-5, 0}, std::pair{0.99e-5, ERR_EQUILIBRE}}) {
+    const double y = std::sqrt(c3 / 80);
+    qb7_par.qb7_par_ecraser_permis = true;
+    reussit(qb7_creer_section(1));
+    creer_zone(1, 1, qb7_zone_semis, acier, {{y, 0.1}, {-y, 0.1}, {-y, -0.1}, {y, -0.1}});
+    reussit(qb7_fixer_param_zone(1, 1, 1e-4));
+    deformation d;
+    EXPECT_EQ(solliciter({0.01, 0, 0}, d).code, attendu);
+  }
+}
+
+// Two bars on a line at z = 1, so far apart that Jacobi leaves the small terms as they are: both diagonal
+// terms pass for eigenvalues, and yet nothing resists a turn about that line.
+TEST_F(Equilibre, UnDeterminantNulEstUnEchec) {
+  reussit(qb7_loi_lin_bilin(9, el, qb7_loi_lineaire, 1));
+  creer_zone(1, 1, qb7_zone_semis, 9, {{2048, 1}, {-2048, 1}});
+  reussit(qb7_fixer_param_zone(1, 1, 0x1p-17));
+  tracer();
+  deformation d;
+  EXPECT_EQ(solliciter({1e-3, 0, 0}, d), (ier_2{ERR_EQUILIBRE}));
+  const std::string texte = trace();
+  EXPECT_EQ(compter(texte, "     Iteration       : "), 1);
+  EXPECT_TRUE(texte.ends_with("               ==> Echec_equilibre par determinant nul\n"));
 }
 
 TEST_F(Equilibre, EffortsNuls) {
@@ -302,6 +403,9 @@ TEST_F(Equilibre, EffortResistantLimite) {
   reussit(qb7_effort_resistant_limite(true, 1, el, {0.7, 0, 0}, {1, 0, 0}, 0.5, 1, k));
   EXPECT_NEAR(k, 1, 1e-5);
   EXPECT_LT(k, 1);
+  // 17 halvings of [0, 1] come under 1e-5; the result is the middle of what is left
+  reussit(qb7_effort_resistant_limite(true, 1, el, {0.7, 0, 0}, {1, 0, 0}, 0, 1, k));
+  EXPECT_EQ(k, 1 - 0x1p-18);
 }
 
 // With limits not judged an equilibrium past them is still none here.

@@ -268,6 +268,26 @@ TEST(IntegrationContour, CourbureNegligeableSansChangementDAxes) {
   }
 }
 
+// The axes are turned from 1e-9 on: there the forces are exact, just under it the slope of the strain along y
+// is left out between the edges. The exact ones come from the outline turned by a quarter of a radian, in
+// which the plane is bent about both axes.
+TEST(IntegrationContour, LesAxesTournentAPartirDUnMilliardieme) {
+  const auto ecart = [](double kz) {
+    const deformation d = {0.0012, 0.004, kz};
+    const double c = std::cos(0.25);
+    const double s = std::sin(0.25);
+    const deformation tourne = {d.e0, c * d.ky - s * d.kz, s * d.ky + c * d.kz};
+    const auto exact = loc_integrer(forme::contour, beton, tourne, loc_tourner(equerre, 0.25));
+    const efforts f = {exact.eff.n, c * exact.eff.my + s * exact.eff.mz, c * exact.eff.mz - s * exact.eff.my};
+    const efforts diff = loc_integrer(forme::contour, beton, d, equerre).eff - f;
+    return std::sqrt(norme_2(diff) / norme_2(f));
+  };
+  EXPECT_LT(ecart(1e-9), 1e-14);
+  EXPECT_LT(ecart(-1e-9), 1e-14);
+  EXPECT_GT(ecart(0.999e-9), 1e-10);
+  EXPECT_LT(ecart(0.999e-9), 1e-7);
+}
+
 TEST(Integration, SansTangenteLesEffortsSontLesMemes) {
   for (const deformation& d : plans) {
     const contexte_zone ctx{cubique.vue(), d};

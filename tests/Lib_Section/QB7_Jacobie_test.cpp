@@ -83,6 +83,30 @@ TEST(Jacobi, UnNombreDeRotationsInsuffisantEstUnEchec) {
   EXPECT_EQ(eff_valeur_propre_minimale_rigidite(m, 1e-14, 0), std::numeric_limits<double>::lowest());
 }
 
+// Of equal terms the one in the corner goes first: one rotation is allowed, and it is that one that is zero.
+TEST(Jacobi, DesTermesEgauxCommencentParLeCoin) {
+  matrice_3 a = {{{1, 1, 1}, {1, 2, 1}, {1, 1, 3}}};
+  EXPECT_EQ(uti_analyse_spectrale_matrice_symetrique_jacobie(a, nullptr, 1e-14, 0), 1);
+  EXPECT_EQ(a[0][2], 0);
+  EXPECT_NE(a[0][1], 0);
+  EXPECT_NE(a[1][2], 0);
+}
+
+// The scale of the stop test is sqrt(|sum of the nine entries|) / 3: 57.7 for three terms of 1e4,
+// hence 5.77e-4 with 1e-5; and next to nothing where the entries cancel, however large they are.
+TEST(Jacobi, LArretSeMesureALaSommeDesTermes) {
+  const auto tourne = [](std::array<double, 3> diagonale, double terme) {
+    matrice_3 a = {{{diagonale[0], terme, 0}, {terme, diagonale[1], 0}, {0, 0, diagonale[2]}}};
+    EXPECT_EQ(uti_analyse_spectrale_matrice_symetrique_jacobie(a, nullptr, 1e-5, 200), 0);
+    return a[0][1] == 0;
+  };
+  EXPECT_FALSE(tourne({1e4, 1e4, 1e4}, 5.7e-4));
+  EXPECT_TRUE(tourne({1e4, 1e4, 1e4}, 5.8e-4));
+  EXPECT_FALSE(tourne({-1e4, -1e4, -1e4}, 5.7e-4));  // the magnitude of a negative sum
+  EXPECT_TRUE(tourne({-1e4, -1e4, -1e4}, 5.8e-4));
+  EXPECT_TRUE(tourne({4, 5, -9}, 1e-6));
+}
+
 TEST(Jacobi, UnNonNombreNEstPasUneValeurPropre) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   EXPECT_EQ(eff_valeur_propre_minimale_rigidite({{{nan, 0, 0}, {0, 2, 0}, {0, 0, 3}}}, 1e-5, 200), 2);

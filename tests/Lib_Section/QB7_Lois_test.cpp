@@ -263,6 +263,29 @@ TEST_F(ConstructeursDeLois, ParaboleDegreNEstContinueEtPlateAuSommet) {
   EXPECT_EQ(sigma(1), 45);
 }
 
+// The strain of the limit is the first middle at which the stress is within 1e-10 of it, on whichever piece.
+TEST_F(ConstructeursDeLois, LaLimiteDUneParaboleDegreNEstTrouveeADixPuissanceMoinsDix) {
+  reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el, 1.6, 45, 0.0022, 0.003, true, 27));
+  EXPECT_NEAR(sigma(loi_du_moteur(mat).epsilon_max), 27, 1.01e-10);
+  EXPECT_LT(loi_du_moteur(mat).epsilon_max, 0.9 * 0.0022);
+  reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el + 1, 1.6, 45, 0.0022, 0.003, true, 44.9));
+  const gbd_loi& haute = loi_du_moteur(mat, el + 1);
+  EXPECT_NEAR(rdm_contrainte_materiau(haute, haute.epsilon_max), 44.9, 1.01e-10);
+  EXPECT_GT(haute.epsilon_max, 0.9 * 0.0022);
+  // not passed, or not wanted: the crushing strain
+  reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el + 2, 1.6, 45, 0.0022, 0.003, true, 45));
+  EXPECT_EQ(loi_du_moteur(mat, el + 2).epsilon_max, 0.003);
+  reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el + 3, 1.6, 45, 0.0022, 0.003, false, 27));
+  EXPECT_EQ(loi_du_moteur(mat, el + 3).epsilon_max, 0.003);
+}
+
+TEST_F(ConstructeursDeLois, LesBetonsSePrennentPourInfinisDesDeuxCotes) {
+  reussit(qb7_loi_beton_bilin(mat, el, 20, 0.00175, 0.0035));
+  EXPECT_EQ(sigma(-1e9), 0);
+  EXPECT_EQ(sigma(1), 20);
+  EXPECT_EQ(loi_du_moteur(mat).type_trou, qb7_trou_encombrement);
+}
+
 // In pascals 1e-10 lies under the rounding of a stress: the halving must end all the same.
 TEST_F(ConstructeursDeLois, LaLimiteSeTrouveDansToutesLesUnites) {
   reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, el, 1.6, 45e6, 0.0022, 0.003, true, 27e6));
@@ -282,6 +305,8 @@ TEST_F(ConstructeursDeLois, ElastoplastiqueBornesParLesContraintes) {
   attendre(-430, 410, -0.0155, 0.0065);
   attendre(-440, 440, -0.02, 0.02);
   attendre(-441, 441, sans, sans);
+  reussit(qb7_loi_elastoplastique_avec_bornes(mat, el, 0.002, 400, 0.02, 440, false, -300, 250, true));
+  attendre_bornes(sans, sans);
 }
 
 TEST_F(ConstructeursDeLois, ElastoplastiqueNonComprimeGardeSaBorneSuperieure) {

@@ -111,6 +111,24 @@ TEST(Racines, LesBornesSontComprises) {
   EXPECT_EQ(rac_chercher(p, {.x_inf = -0.4, .x_sup = 0.4}).n_racs, 0);
 }
 
+// Roots that are dropped leave no hole and nothing behind them.
+TEST(Racines, CeQuiResteEstTasseEtSuiviDeZeros) {
+  const racines r = rac_chercher(loc_polynome_de_racines({-2, 0.5, 3}), {.x_inf = 0});
+  loc_attendre({0.5, 3}, r, 1e-12);
+  for (std::size_t i = 2; i < rac_degre_max; ++i) {
+    EXPECT_EQ(r.racs[i], 0);
+    EXPECT_EQ(r.rangs_racs[i], 0);
+  }
+}
+
+// x1 + x2 = 1e8 and x1 x2 = 1: -b - sqrt(b^2 - 4 a c) would keep no digit of the smaller root.
+TEST(Racines, LaPetiteRacineDUneParaboleGardeSesChiffres) {
+  const racines r = rac_chercher(std::array{1.0, -1e8, 1.0});
+  ASSERT_EQ(r.n_racs, 2);
+  EXPECT_DOUBLE_EQ(r.racs[0], 1e-8);
+  EXPECT_DOUBLE_EQ(r.racs[1], 1e8);
+}
+
 TEST(Racines, DegreEffectifEtPolynomeNul) {
   EXPECT_EQ(rac_chercher(std::array{0.0, 0.0, 0.0, 0.0}).n_racs, rac_toutes);
   EXPECT_EQ(rac_chercher({}).n_racs, rac_toutes);
@@ -128,6 +146,8 @@ TEST(Racines, UnDegreTropEleveEstSignale) {
 TEST(Racines, ValeurEtDerivee) {
   const std::array p = {5.0, -3.0, 2.0, 7.0};
   EXPECT_DOUBLE_EQ(gen_valeur_poly(p, 2), 5 - 6 + 8 + 56);
+  EXPECT_EQ(gen_valeurs_poly(p, std::array{2.0, 0.0, -1.0}), (std::vector<double>{63, 5, 3}));
+  EXPECT_TRUE(gen_valeurs_poly(p, {}).empty());
   const auto d = rac_poly_derivee(p);
   EXPECT_DOUBLE_EQ(gen_valeur_poly(d, 2), -3 + 8 + 84);
 }

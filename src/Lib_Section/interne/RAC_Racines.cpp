@@ -220,6 +220,12 @@ double gen_valeur_poly(std::span<const double> poly, double x) {
   return y;
 }
 
+std::vector<double> gen_valeurs_poly(std::span<const double> poly, std::span<const double> xs) {
+  std::vector<double> valeurs(xs.size());
+  std::ranges::transform(xs, valeurs.begin(), [poly](double x) { return gen_valeur_poly(poly, x); });
+  return valeurs;
+}
+
 std::array<double, rac_degre_max + 1> rac_poly_derivee(std::span<const double> poly) {
   std::array<double, rac_degre_max + 1> d{};
   for (std::size_t i = 1; i < poly.size(); ++i) d[i - 1] = static_cast<double>(i) * poly[i];

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 #include <span>
+#include <vector>
 
 /// The degree that rac_chercher goes up to.
 constexpr std::size_t rac_degre_max = 8;
@@ -37,6 +38,8 @@ racines rac_chercher(std::span<const double> poly, const filtre_racines& filtre 
 
 /// Value at x, by Horner's scheme; an empty polynomial is zero.
 double gen_valeur_poly(std::span<const double> poly, double x);
+/// The same at each x of xs, in their order.
+std::vector<double> gen_valeurs_poly(std::span<const double> poly, std::span<const double> xs);
 
 /// Derivative; as long as the polynomial, its last coefficient is zero.
 std::array<double, rac_degre_max + 1> rac_poly_derivee(std::span<const double> poly);
