@@ -1,5 +1,6 @@
 #include "Zof_Classe_Gaines.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 #include "Simple.hpp"
@@ -34,9 +35,9 @@ void zof_gaines::traiter_zone(bool& erco) {
 }
 
 bool zof_gaines::point_interieur_zone(point_yz p) const {
-  for (const zof_point& centre : uef_parcours<zof_point>(m_les_points_zone))
-    if (std::hypot(p.y - centre.m_y, p.z - centre.m_z) < m_diametre_zone / 2) return true;
-  return false;
+  return std::any_of(positions_.begin(), positions_.end(), [&](point_yz centre) {
+    return std::hypot(p.y - centre.y, p.z - centre.z) < m_diametre_zone / 2;
+  });
 }
 
 double zof_gaines::rayon_points() const {

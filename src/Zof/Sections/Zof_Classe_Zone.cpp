@@ -163,9 +163,9 @@ void zof_zone::finaliser_zone(bool& erco) {
   if (erco) return;
   creer_zone_qb7(m_numero_zone_qb7, m_numero_materiau_qb7, liste_points,
                  {m_matiere_zone_qb7, m_encombrement_zone_qb7}, m_numero_mere_zone_qb7);
+  positions_ = positions_points();
   if (m_type_zone_qb7 != qb7_zone_contour) return;
-  contour_ = positions_points();
-  const double aire = aire_polygone(contour_);
+  const double aire = aire_polygone(positions_);
   zof_assert_commande(aire > 0,
                       concat({" l aire de la zone ", m_nom_zone.utile(), "  est  négative :"_l1,
                               zof_chaine_numerique_double(aire).entier()}),
@@ -224,9 +224,9 @@ void zof_zone::symetriser_contenu(const std::vector<int>&) {}
 bool zof_zone::point_dans_contour(point_yz p) const {
   constexpr double tolerance = zof_tolerance_points_confondus;
   bool dedans = false;
-  for (std::size_t i = 0; i < contour_.size(); ++i) {
-    point_yz a = contour_[i];
-    point_yz b = contour_[i + 1 == contour_.size() ? 0 : i + 1];
+  for (std::size_t i = 0; i < positions_.size(); ++i) {
+    point_yz a = positions_[i];
+    point_yz b = positions_[i + 1 == positions_.size() ? 0 : i + 1];
     if (a.z > b.z) std::swap(a, b);
     if (p.z <= a.z - tolerance || p.z >= b.z + tolerance) continue;
     if (loc_distance_au_cote(p, a, b) < tolerance) return true;

@@ -46,7 +46,7 @@ inline constexpr int numero_point_max = 99999;
 /// A list whose copy has elements of its own.
 struct liste_propre : uef_vector {
   liste_propre() = default;
-  liste_propre(const liste_propre& autre) : uef_vector() { transferer(autre); }
+  liste_propre(const liste_propre& autre) : uef_vector(autre) { transferer(autre); }
   liste_propre& operator=(const liste_propre& autre) {
     if (this != &autre) transferer(autre);
     return *this;
@@ -158,6 +158,9 @@ struct zof_zone : zof_zone_generalisee {
   virtual void edition_zone() const;
 
  protected:
+  /// Positions of the points of a zone that is in the engine: what stands in it is tested against them.
+  polygone positions_;
+
   /// Name of the material after MATE: takes it and gives its kind. An unknown one is refused.
   int lire_materiau(bool& erco);
   /// Value after DIAM, above 0, in the unit of the data file.
@@ -188,7 +191,6 @@ struct zof_zone : zof_zone_generalisee {
   void creer_points_qb7(std::vector<int>& liste_points);
   void symetriser(int axe);
 
-  polygone contour_;  // of a contour or a void that is in the engine: what stands in it is tested against it
   bool contient_ferraillage_ = false;
   bool contient_cable_ = false;
   std::unordered_map<int, int> positions_points_;  // number: position in m_les_points_zone

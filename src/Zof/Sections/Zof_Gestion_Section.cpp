@@ -9,6 +9,7 @@
 
 #include "And_anadon.hpp"
 #include "Arithmetique.hpp"
+#include "Arret.hpp"
 #include "QB7_Sections.hpp"
 #include "Simple.hpp"
 #include "UTL_02_Ecriture_Resu.hpp"
@@ -27,9 +28,15 @@ namespace {
 // Sections and zones that the model holds are in the engine too.
 void loc_assert_qb7(ier_2 ier) { zof_assert(!ier, "Zof_Gestion_Section : Cas impossible"); }
 
+// An internal fault: the caller has not asked whether the object exists.
+[[noreturn]] void loc_cas_impossible(vue_l1 operation) {
+  zof_assert(false, concat({operation, " : Cas impossible"}));
+  arreter(1);
+}
+
 zof_section& loc_section(const texte<32>& nom_section) {
   zof_section* const section = zof_get_pt_section(nom_section);
-  zof_assert(section != nullptr, "Zof_Get_Pt_Section : Cas impossible");
+  if (section == nullptr) loc_cas_impossible("Zof_Get_Pt_Section");
   return *section;
 }
 
@@ -127,7 +134,7 @@ bool zof_existe_zone_section(const texte<32>& nom_section, const texte<32>& nom_
 
 texte<32> zof_get_nom_materiau_zone_section(const texte<32>& nom_section, const texte<32>& nom_zone) {
   const zof_zone* const zone = zof_get_pt_nom_zone_section(nom_section, nom_zone);
-  zof_assert(zone != nullptr, "Zof_Get_Nom_Materiau_Zone_Section : Cas impossible");
+  if (zone == nullptr) loc_cas_impossible("Zof_Get_Nom_Materiau_Zone_Section");
   return zone->m_nom_materiau_zone;
 }
 
@@ -147,17 +154,18 @@ zof_charpente* zof_get_pt_charpente_externe(const texte<32>& nom_section) {
 }
 
 bool zof_existe_situation_section(const texte<32>& nom_section, const texte<32>& label_situation) {
-  const auto materiaux = uef_parcours<zof_nom>(loc_section(nom_section).m_tous_les_materiaux_de_la_section);
-  for (const zof_nom& nom : materiaux)
-    if (!zof_existe_situation_materiau(nom.m_nom, label_situation)) return false;
+  for (int i = 1; i <= zof_get_nombre_materiau_section(nom_section); ++i)
+    if (!zof_existe_situation_materiau(zof_get_nom_materiau_section(nom_section, i), label_situation))
+      return false;
   return true;
 }
 
 bool zof_existe_etat_limite_situation_section(const texte<32>& nom_section, const texte<32>& label_situation,
                                               const texte<32>& label_etat_limite) {
-  const auto materiaux = uef_parcours<zof_nom>(loc_section(nom_section).m_tous_les_materiaux_de_la_section);
-  for (const zof_nom& nom : materiaux)
-    if (!zof_existe_etat_limite_materiau(nom.m_nom, label_situation, label_etat_limite)) return false;
+  for (int i = 1; i <= zof_get_nombre_materiau_section(nom_section); ++i)
+    if (!zof_existe_etat_limite_materiau(zof_get_nom_materiau_section(nom_section, i), label_situation,
+                                         label_etat_limite))
+      return false;
   return true;
 }
 
