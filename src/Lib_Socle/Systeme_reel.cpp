@@ -1,6 +1,7 @@
 #include "Systeme_reel.hpp"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -69,11 +70,19 @@ class sortie_descripteur final : public sortie {
       const ssize_t n = write(descripteur_, v.data(), v.size());
       if (n >= 0) {
         v.remove_prefix(static_cast<std::size_t>(n));
+      } else if (errno == EAGAIN) {
+        attendre_place();
       } else if (errno != EINTR) {
         echec_ = true;
         machine_.noter_echec(nom_);
       }
     }
+  }
+
+  /// A pipe that does not block is full: what reads it makes room, or goes away and the next write fails.
+  void attendre_place() const {
+    pollfd attente{descripteur_, POLLOUT, 0};
+    poll(&attente, 1, -1);
   }
 
   systeme& machine_;

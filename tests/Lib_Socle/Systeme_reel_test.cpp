@@ -1,14 +1,18 @@
 // The machine of the program, on real files in a fresh directory.
 #include "Systeme_reel.hpp"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <thread>
 
 using namespace socle;
 namespace fs = std::filesystem;
@@ -76,6 +80,29 @@ TEST_F(SystemeReel, NiRepertoireNiTubeNEstUneDonnee) {
   EXPECT_EQ(machine.ouvrir(chemin("tube")), nullptr);
   EXPECT_EQ(machine.creer(chemin("tube"), debut::efface), nullptr);
   EXPECT_EQ(machine.creer(repertoire, debut::efface), nullptr);
+}
+
+// Files are opened so that none is waited for: a slow reader must not make the rest of a file be lost.
+TEST_F(SystemeReel, UnTubePleinEstAttendu) {
+  ASSERT_EQ(mkfifo(chemin("tube").c_str(), 0600), 0);
+  const int lecture = open(chemin("tube").c_str(), O_RDONLY | O_NONBLOCK);
+  ASSERT_GE(lecture, 0);
+  auto s = machine.creer(chemin("tube"), debut::efface);
+  ASSERT_NE(s, nullptr);
+  fcntl(lecture, F_SETFL, 0);
+  std::size_t lus = 0;
+  std::thread lecteur([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));  // time for the pipe to fill
+    std::array<char, 4096> tampon{};
+    for (ssize_t n = 0; (n = read(lecture, tampon.data(), tampon.size())) > 0;)
+      lus += static_cast<std::size_t>(n);
+  });
+  s->ecrire(std::string(1'000'000, 'x'));
+  s.reset();
+  lecteur.join();
+  close(lecture);
+  EXPECT_EQ(lus, 1'000'000U);
+  EXPECT_EQ(machine.premier_echec(), "");
 }
 
 TEST_F(SystemeReel, UneBarreInverseSepareLesRepertoires) {
