@@ -17,6 +17,9 @@ using socle::simple;
 
 namespace {
 
+/// The arithmetic of a client that divides by zero gives an infinite number or none: neither makes a law.
+bool loc_positif(double x) { return std::isfinite(x) && x > 0; }
+
 /// A limit that is given and limits something.
 bool loc_existe(const std::optional<double>& borne) { return borne && *borne != qb7_sans_borne; }
 
@@ -26,8 +29,12 @@ std::optional<double> loc_en_deformation(const std::optional<double>& sigma, dou
   return *sigma / e;
 }
 
-/// Rank, from 1, of the first smallest step between successive strains, if it is not positive; else 0.
+/// Rank, from 1, of the first smallest step between successive strains, if it is not positive, or of a step
+/// that has no finite length; else 0.
 int loc_rang_mal_ordonne(std::span<const double> tab_epsilons) {
+  for (std::size_t i = 1; i < tab_epsilons.size(); ++i) {
+    if (!std::isfinite(tab_epsilons[i] - tab_epsilons[i - 1])) return static_cast<int>(i);
+  }
   std::size_t rang = 1;
   for (std::size_t i = 2; i < tab_epsilons.size(); ++i) {
     if (tab_epsilons[i] - tab_epsilons[i - 1] < tab_epsilons[rang] - tab_epsilons[rang - 1]) rang = i;
@@ -73,11 +80,12 @@ ier_2 loc_lin_bilin(int num_materiau, int num_etat_lim, int type_loi, std::optio
                     std::optional<double> sigma_min, std::optional<double> sigma_max,
                     std::optional<int> type_trou) {
   const double module = e.value_or(0);
-  if (type_loi == qb7_loi_nulle ? module != 0 : !(module > 0)) return {ERR_MODULE};
+  if (type_loi == qb7_loi_nulle ? module != 0 : !loc_positif(module)) return {ERR_MODULE};
   const auto une_borne = [&](auto interdite) {
     return (loc_existe(sigma_min) && interdite(*sigma_min)) ||
            (loc_existe(sigma_max) && interdite(*sigma_max));
   };
+  if (une_borne([](double sigma) { return !std::isfinite(sigma); })) return {ERR_LIMITES_LOI};
   const auto creer = [&](std::span<const double> tab_epsilons, std::span<const double> tab_sigmas) {
     return qb7_loi_multi_lin(num_materiau, num_etat_lim, tab_epsilons, tab_sigmas,
                              loc_en_deformation(sigma_min, module), loc_en_deformation(sigma_max, module),
@@ -102,8 +110,8 @@ ier_2 loc_lin_bilin(int num_materiau, int num_etat_lim, int type_loi, std::optio
 
 ier_2 loc_parabole_rectangle_avec_bornes(int num_materiau, int num_etat_lim, double f_cd, double eps_c1,
                                          double eps_cu, bool limites, double f_lim) {
-  if (f_cd <= 0 || f_lim < 0) return {ERR_CONTRAINTE};
-  if (eps_c1 <= 0 || eps_c1 > eps_cu) return {ERR_DEF_LOI};
+  if (!loc_positif(f_cd) || !std::isfinite(f_lim) || f_lim < 0) return {ERR_CONTRAINTE};
+  if (!loc_positif(eps_c1) || !std::isfinite(eps_cu) || eps_c1 > eps_cu) return {ERR_DEF_LOI};
   const double a1 = 2 * f_cd / eps_c1;
   const double a2 = -f_cd / (eps_c1 * eps_c1);
   const std::array<qb7_polynome, 3> coeffs = {{{}, {0, a1, a2}, {f_cd}}};
@@ -156,9 +164,9 @@ double loc_deformation_limite(const table_degre_n& table, double f_lim) {
 
 ier_2 loc_parabole_degre_n_avec_bornes(int num_materiau, int num_etat_lim, double n, double f_cd,
                                        double eps_c1, double eps_cu, bool limites, double f_lim) {
-  if (f_cd <= 0) return {ERR_CONTRAINTE};
-  if (n < simple(1.4f) || n > 2.0) return {ERR_DEGRE_LOI};
-  if (eps_c1 <= 0 || eps_c1 > eps_cu) {
+  if (!loc_positif(f_cd) || !std::isfinite(f_lim)) return {ERR_CONTRAINTE};
+  if (!(n >= simple(1.4f) && n <= 2.0)) return {ERR_DEGRE_LOI};
+  if (!loc_positif(eps_c1) || !std::isfinite(eps_cu) || eps_c1 > eps_cu) {
     socle::le_systeme().console().ligne("erreur def loi ");
     return {ERR_DEF_LOI};
   }
@@ -171,7 +179,7 @@ ier_2 loc_parabole_degre_n_avec_bornes(int num_materiau, int num_etat_lim, doubl
 }
 
 ier_2 loc_beton_bilin(int num_materiau, int num_etat_lim, double f_cd, double eps_c1, double eps_cu) {
-  if (f_cd <= 0) return {ERR_CONTRAINTE};
+  if (!loc_positif(f_cd)) return {ERR_CONTRAINTE};
   return qb7_loi_multi_lin(num_materiau, num_etat_lim, std::array{-1.0, 0.0, eps_c1, eps_cu},
                            std::array{0.0, 0.0, f_cd, f_cd}, {}, eps_cu);
 }
@@ -203,7 +211,8 @@ std::optional<double> loc_deformation_deux_branches(double f, double eps_palier,
 ier_2 loc_elastoplastique_avec_bornes(int num_materiau, int num_etat_lim, double eps_palier, double f_palier,
                                       double eps_rupture, double f_rupture, bool limites, double f_min,
                                       double f_max, bool comprimes, std::optional<int> type_trou) {
-  if (f_palier <= 0 || f_palier > f_rupture) return {ERR_CONTRAINTE};
+  if (!loc_positif(f_palier) || !std::isfinite(f_rupture) || f_palier > f_rupture) return {ERR_CONTRAINTE};
+  if (limites && !(std::isfinite(f_min) && std::isfinite(f_max))) return {ERR_CONTRAINTE};
   std::optional<double> epsilon_min;
   std::optional<double> epsilon_max;
   if (limites) {
@@ -217,8 +226,8 @@ ier_2 loc_elastoplastique_avec_bornes(int num_materiau, int num_etat_lim, double
 
 ier_2 loc_passif_palier(int num_materiau, int num_etat_lim, double es, double f_sed, double f_sud,
                         double eps_su, bool comprimes) {
-  if (f_sed <= 0 || f_sed > f_sud) return {ERR_CONTRAINTE};
-  if (es <= 0) return {ERR_MODULE};
+  if (!loc_positif(f_sed) || !std::isfinite(f_sud) || f_sed > f_sud) return {ERR_CONTRAINTE};
+  if (!loc_positif(es)) return {ERR_MODULE};
   return loc_deux_branches(num_materiau, num_etat_lim, {f_sed / es, f_sed}, {eps_su, f_sud}, comprimes,
                            -eps_su, {}, qb7_trou_rien);
 }

@@ -6,6 +6,8 @@
 // is no limit. A law has no domain: past its points it follows its extreme polynomials; its limits only judge
 // a strain plane. A strain that falls on a knot belongs to the interval on its right.
 //
+// A stress, a modulus or a strain that is infinite or not a number is refused like one that is out of range.
+//
 // Every builder creates the law (num_materiau, num_etat_lim), checks its arguments before it creates
 // anything, and journals a failure under its own name. ERR_LOI_EXISTE, ERR_DEF_LOI and their like come from
 // the store as they are.

@@ -1,5 +1,6 @@
 // The laws' side of the facade.
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "QB7_Acces.hpp"
@@ -78,6 +79,7 @@ ier_2 qb7_fixer_bornes_loi(int num_materiau, int num_etat_lim, std::optional<dou
   return qb7_sur_loi("QB7_Fixer_Bornes_Loi", num_materiau, num_etat_lim, [&](gbd_loi& loi) {
     const double min = epsilon_min.value_or(qb7_sans_borne);
     const double max = epsilon_max.value_or(qb7_sans_borne);
+    if (!std::isfinite(min) || !std::isfinite(max)) return ier_2{ERR_BORNES_LOI, num_materiau};
     if (min != qb7_sans_borne && max != qb7_sans_borne && min >= max)
       return ier_2{ERR_BORNES_LOI, num_materiau};
     loi.epsilon_min = min;

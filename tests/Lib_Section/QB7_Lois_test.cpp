@@ -1,5 +1,7 @@
 #include "QB7_Lois.hpp"
 
+#include <limits>
+
 #include "Moteur_de_test.hpp"
 #include "QB7_RDM.hpp"
 #include "RAC_Racines.hpp"
@@ -360,6 +362,55 @@ TEST_F(ConstructeursDeLois, PassifPalierRefuse) {
   attendre_refus(qb7_loi_passif_ec2_elu(mat, el, -1, 400, {}, 0.01, true), {ERR_MODULE});
   EXPECT_EQ(qb7_err_nbre_messages(), 2);
   EXPECT_EQ(qb7_err.glob_tab_noms_procs[2].utile(), "QB7_LOI_Passif_EC2_ELU");
+}
+
+// A partial factor or a modulus of zero makes infinite stresses and strains, zero times infinity no number at
+// all.
+TEST_F(ConstructeursDeLois, UnNombreInfiniOuIndefiniNeFaitPasDeLoi) {
+  systeme_memoire machine;
+  const socle::systeme_en_place en_place(machine);
+  constexpr double infini = std::numeric_limits<double>::infinity();
+  for (const double x : {infini, -infini, std::numeric_limits<double>::quiet_NaN()}) {
+    const auto parabole = [](double f_cd, double eps_c1, double eps_cu, double f_lim) {
+      return qb7_loi_parabole_rectangle_avec_bornes(mat, el, f_cd, eps_c1, eps_cu, true, f_lim);
+    };
+    attendre_refus(parabole(x, 0.002, 0.0035, 18), {ERR_CONTRAINTE});
+    attendre_refus(parabole(20, 0.002, 0.0035, x), {ERR_CONTRAINTE});
+    attendre_refus(parabole(20, x, 0.0035, 18), {ERR_DEF_LOI});
+    attendre_refus(parabole(20, 0.002, x, 18), {ERR_DEF_LOI});
+    const auto degre_n = [](double n, double f_cd, double eps_c1, double eps_cu, double f_lim) {
+      return qb7_loi_parabole_degre_n_avec_bornes(mat, el, n, f_cd, eps_c1, eps_cu, true, f_lim);
+    };
+    attendre_refus(degre_n(1.5, x, 0.002, 0.0035, 18), {ERR_CONTRAINTE});
+    attendre_refus(degre_n(1.5, 20, 0.002, 0.0035, x), {ERR_CONTRAINTE});
+    attendre_refus(degre_n(x, 20, 0.002, 0.0035, 18), {ERR_DEGRE_LOI});
+    attendre_refus(degre_n(1.5, 20, x, 0.0035, 18), {ERR_DEF_LOI});
+    attendre_refus(degre_n(1.5, 20, 0.002, x, 18), {ERR_DEF_LOI});
+    attendre_refus(qb7_loi_beton_bilin(mat, el, x, 0.00175, 0.0035), {ERR_CONTRAINTE});
+    EXPECT_EQ(qb7_loi_beton_bilin(mat, el, 20, x, 0.0035).code, ERR_DEF_LOI);
+    EXPECT_EQ(qb7_loi_beton_bilin(mat, el, 20, 0.00175, x).code, ERR_DEF_LOI);
+    const auto acier = [](double eps_palier, double f_palier, double f_rupture, double f_min, double f_max) {
+      return qb7_loi_elastoplastique_avec_bornes(mat, el, eps_palier, f_palier, 0.05, f_rupture, true, f_min,
+                                                 f_max, true);
+    };
+    attendre_refus(acier(0.002, x, 440, -300, 300), {ERR_CONTRAINTE});
+    attendre_refus(acier(0.002, 400, x, -300, 300), {ERR_CONTRAINTE});
+    attendre_refus(acier(0.002, 400, 440, x, 300), {ERR_CONTRAINTE});
+    attendre_refus(acier(0.002, 400, 440, -300, x), {ERR_CONTRAINTE});
+    EXPECT_EQ(acier(x, 400, 440, -300, 300).code, ERR_DEF_LOI);
+    attendre_refus(qb7_loi_passif_palier(mat, el, 200000, x), {ERR_CONTRAINTE});
+    attendre_refus(qb7_loi_passif_palier(mat, el, 200000, 400, x), {ERR_CONTRAINTE});
+    attendre_refus(qb7_loi_passif_palier(mat, el, x, 400), {ERR_MODULE});
+    EXPECT_EQ(qb7_loi_passif_palier(mat, el, 200000, 400, {}, x).code, ERR_DEF_LOI);
+    attendre_refus(qb7_loi_lin_bilin(mat, el, qb7_loi_lineaire, x), {ERR_MODULE});
+    attendre_refus(qb7_loi_lin_bilin(mat, el, qb7_loi_lineaire, 200000.0, x), {ERR_LIMITES_LOI});
+    attendre_refus(qb7_loi_lin_bilin(mat, el, qb7_loi_lineaire, 200000.0, {}, x), {ERR_LIMITES_LOI});
+  }
+  // Finite numbers whose quotient is not: a stress limit, the slope of a line, the curvature of a parabola.
+  attendre_refus(qb7_loi_lin_bilin(mat, el, qb7_loi_lineaire, 1e-300, {}, 1e10), {ERR_BORNES_LOI, mat});
+  attendre_refus(qb7_loi_beton_bilin(mat, el, 20, 1e-308, 0.0035), {ERR_DEF_LOI, 2});
+  attendre_refus(qb7_loi_parabole_rectangle_avec_bornes(mat, el, 20, 1e-200, 0.0035, false, 0),
+                 {ERR_DEF_LOI, 2});
 }
 
 TEST_F(ConstructeursDeLois, LoisUnites) {

@@ -1,6 +1,8 @@
 #include "QB7_GBD_LOI.hpp"
 
 #include <algorithm>
+#include <cmath>
+#include <cstddef>
 #include <utility>
 
 #include "QB7_ERR_Erreurs.hpp"
@@ -22,6 +24,17 @@ int loc_rang_pas_negatif(std::span<const double> epsilons) {
   return rang;
 }
 
+/// Rank, from 1, of the first interval whose left end or whose polynomial is not made of finite numbers; else
+/// 0.
+int loc_rang_non_fini(std::span<const double> epsilons, int degre, std::span<const qb7_polynome> coeffs) {
+  const auto fini = [](double x) { return std::isfinite(x); };
+  for (std::size_t i = 0; i < epsilons.size(); ++i) {
+    const auto fin = coeffs[i].begin() + degre + 1;
+    if (!fini(epsilons[i]) || !std::all_of(coeffs[i].begin(), fin, fini)) return static_cast<int>(i) + 1;
+  }
+  return 0;
+}
+
 }  // namespace
 
 ier_2 gbd_loi_creer(int num_materiau, int num_etat_lim, std::span<const double> epsilons, int degre,
@@ -30,6 +43,7 @@ ier_2 gbd_loi_creer(int num_materiau, int num_etat_lim, std::span<const double> 
   if (degre < 0 || degre > 3) return {ERR_DEGRE_LOI, degre};
   if (coeffs.size() != epsilons.size()) return {ERR_DIM_TAB, static_cast<int>(epsilons.size())};
   if (const int rang = loc_rang_pas_negatif(epsilons); rang != 0) return {ERR_DEF_LOI, rang};
+  if (const int rang = loc_rang_non_fini(epsilons, degre, coeffs); rang != 0) return {ERR_DEF_LOI, rang};
 
   loi = {};
   loi.num_materiau = num_materiau;
