@@ -1,5 +1,7 @@
 #include "Zof_Classe_Situation_Beton_EC.hpp"
 
+#include <algorithm>
+
 #include "Simple.hpp"
 #include "Zof_Classe_Materiau_Beton_EC.hpp"
 #include "Zof_Erreurs.hpp"
@@ -54,6 +56,13 @@ void loc_affecter_construction(zof_situation_beton_ec& s, const zof_materiau_bet
   if (!b.m_is_beton_precontraint) return;
   s.m_coeff_sigma_min_els_qp = simple(0.7f);
   s.m_coeff_sigma_min_enrobage_els_qp = loc_traction_enrobage(b, simple(0.7f), false);
+}
+
+/// Failure of a parabola. EN 1992-1-1 table 3.1 prints one value, 2.6 per mille, for both strains of C90; its
+/// formulas without rounding put the peak at 2.6005 and the failure at 2.6. No concrete fails before its
+/// peak.
+double loc_rupture_parabole(const zof_beton_ec& b) {
+  return std::max(b.deformation_rupture_2(), b.deformation_pic_2());
 }
 
 void loc_remplacer_si_absent(double& champ, double valeur) {
@@ -128,13 +137,13 @@ void zof_situation_beton_ec::assigner_deformations() {
   const bool caisson = m_pt_materiau->m_categorie_zone_section == categorie_caisson;
   const bool bilineaire = m_type_loi_elu == type_loi_bilineaire;
   const double pic = bilineaire ? b.deformation_pic_3() : b.deformation_pic_2();
-  const double rupture = bilineaire ? b.deformation_rupture_3() : b.deformation_rupture_2();
+  const double rupture = bilineaire ? b.deformation_rupture_3() : loc_rupture_parabole(b);
   loc_remplacer_si_absent(m_deformation_elu_pic, pic);
   loc_remplacer_si_absent(m_deformation_elu_rupture, caisson ? simple(1.1f) * pic : rupture);
 
   if (m_type_loi_els == type_loi_parabole) {
     loc_remplacer_si_absent(m_deformation_els_pic, b.deformation_pic_2());
-    loc_remplacer_si_absent(m_deformation_els_rupture, b.deformation_rupture_2());
+    loc_remplacer_si_absent(m_deformation_els_rupture, loc_rupture_parabole(b));
   } else {
     m_deformation_els_pic = non_renseigne;
     m_deformation_els_rupture = non_renseigne;

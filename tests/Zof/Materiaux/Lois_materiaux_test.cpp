@@ -259,6 +259,29 @@ TEST_F(lois_materiaux, LoisDeServiceDUnBetonArme) {
   EXPECT_EQ(type_trou(7, fissuree), qb7_trou_encombrement);
 }
 
+// phi(infinite, 28) of EN 1992-1-1 annex B.1 for fcm = 38, RH 70 %, h0 = 250 mm.
+TEST_F(lois_materiaux, FluageEtModuleDUnBetonDAgeInfini) {
+  zof_materiau_beton_ec b = beton(30);
+  zof_creer_situation_beton(b, situation_exploitation_infinie);
+  const auto& s =
+      static_cast<const zof_situation_beton_ec&>(*b.get_pt_situation_materiau("EXPLOITATION_INFINIE"));
+  const double alpha = 35.0 / 38;
+  const double phi_rh = (1 + std::pow(alpha, 0.7) * 0.3 / (0.1 * std::cbrt(250.0))) * std::pow(alpha, 0.2);
+  const double phi = phi_rh * 16.8 / std::sqrt(38) / (0.1 + std::pow(28, 0.2));
+  EXPECT_NEAR(s.m_phi_t, phi, 1e-6 * phi);
+  EXPECT_NEAR(s.m_ecm_t, 22000 * std::pow(3.8, 0.3) * std::exp(0.25 * 0.3), 0.01);
+}
+
+TEST_F(lois_materiaux, LesCoefficientsVeulentUnBetonDeSituation) {
+  zof_materiau_beton_ec b = beton(30);
+  auto& s = zof_ajouter_situation<zof_situation_beton_ec>(b);
+  s.set_type_situation_projet(situation_construction);
+  EXPECT_EQ(statut_d_arret([&s] { s.affectation_coefficents_ec(); }), 1);
+  EXPECT_EQ(machine_.texte_console,
+            "Zof_Affectation_coefficents_EC : Beton situation non cree\n"
+            " ARRET PREMATURE : PREVENIR LE GESTIONNAIRE\n");
+}
+
 TEST_F(lois_materiaux, ParaboleDeService) {
   zof_materiau_beton_ec b = beton(30);
   auto& s = zof_ajouter_situation<zof_situation_beton_ec>(b);
@@ -295,7 +318,7 @@ TEST_F(lois_materiaux, LesComportementsHorsUsageArretentLaCourse) {
 
 // C50 already takes the spline of the exponent 1.999.
 TEST_F(lois_materiaux, LesClassesDeBetonDonnentLeursLois) {
-  for (const double fck : {12.0, 20.0, 30.0, 45.0, 50.0, 55.0, 60.0, 70.0, 80.0}) {
+  for (const double fck : {12.0, 20.0, 30.0, 45.0, 50.0, 55.0, 60.0, 70.0, 80.0, 90.0}) {
     qb7_reinit_loi();
     zof_materiau_beton_ec b = beton(fck);
     EXPECT_FALSE(statut_d_arret([&b] {
@@ -305,25 +328,55 @@ TEST_F(lois_materiaux, LesClassesDeBetonDonnentLeursLois) {
   }
 }
 
-// Table 3.1 prints 2.6 per mille for both strains of C90; its formulas put the peak at 2.6005, past the
-// failure at 2.6, and the engine takes no such parabola. The bilinear law, with its peak at 2.3, stands; so
-// does a failure given.
-TEST_F(lois_materiaux, LaParaboleDeC90EstRefuseeParLeMoteur) {
+// Table 3.1 prints 2.6 per mille for both strains of C90; its formulas put the peak at 2 + 0.085 x 40^0.53 =
+// 2.6005, past the failure at 2.6: the parabola then ends at its peak. The bilinear law has its peak at 2.3,
+// and a box 1.1 times the peak.
+TEST_F(lois_materiaux, LaParaboleDeC90VaJusquASonPic) {
+  const double pic = (2 + 0.085 * std::pow(40, 0.53)) / 1000;
+  for (const int type_loi : {type_loi_parabole, type_loi_bilineaire})
+    for (const int categorie : {categorie_normale, categorie_caisson}) {
+      qb7_reinit_loi();
+      zof_materiau_beton_ec b = beton(90);
+      b.set_categorie_zone_section(categorie);
+      auto& s = zof_ajouter_situation<zof_situation_beton_ec>(b);
+      s.set_type_situation_projet(situation_exploitation_service);
+      s.fixer_ages();
+      s.m_ponderation_lois_ct_lt = 0.25;
+      s.creer_beton_situation_ec();
+      s.affectation_coefficents_ec();
+      s.m_type_loi_elu = type_loi;
+      s.m_type_loi_els = type_loi_parabole;
+      s.assigner_deformations();
+      EXPECT_FALSE(statut_d_arret([&s] { s.creer_lois(); }));
+      const bool caisson = categorie == categorie_caisson;
+      const double pic_elu = type_loi == type_loi_bilineaire ? 0.0023 : pic;
+      const double rupture = type_loi == type_loi_bilineaire ? 0.0026 : pic;
+      EXPECT_NEAR(s.m_deformation_elu_pic, pic_elu, 1e-9);
+      EXPECT_NEAR(s.m_deformation_elu_rupture, caisson ? 1.1 * pic_elu : rupture, 1e-9);
+      EXPECT_NEAR(s.m_deformation_els_rupture, pic, 1e-9);
+      EXPECT_GE(s.m_deformation_els_rupture, s.m_deformation_els_pic);
+      EXPECT_NEAR(lire_bornes(7, 1010).epsilon_max, caisson ? 1.1 * pic_elu : rupture, 1e-9);
+      EXPECT_NEAR(contrainte(7, 1010, 0.01), 60, 1e-10);
+    }
+}
+
+// The strains of the data are taken as they are, and an ultimate parabola that fails before its peak is
+// refused.
+TEST_F(lois_materiaux, LesDeformationsDonneesNeSontPasRelevees) {
   zof_materiau_beton_ec b = beton(90);
-  EXPECT_EQ(statut_d_arret([&b] { zof_creer_situation_beton(b, situation_accident); }), 1);
-  for (const int type_loi : {type_loi_parabole, type_loi_bilineaire}) {
-    auto& s = zof_ajouter_situation<zof_situation_beton_ec>(b);
-    s.set_type_situation_projet(type_loi);  // another situation for each law
-    s.fixer_ages();
-    s.m_ponderation_lois_ct_lt = 0.25;
-    s.creer_beton_situation_ec();
-    s.affectation_coefficents_ec();
-    s.m_type_loi_elu = type_loi;
-    if (type_loi == type_loi_parabole) s.m_deformation_elu_rupture = 0.00261;
-    s.assigner_deformations();
-    EXPECT_FALSE(statut_d_arret([&s] { s.creer_lois(); }));
-    EXPECT_NEAR(contrainte(7, 1000 * type_loi + 10, 0.01), 60, 1e-10);
-  }
+  auto& s = zof_ajouter_situation<zof_situation_beton_ec>(b);
+  s.set_type_situation_projet(situation_exploitation_service);
+  s.fixer_ages();
+  s.m_ponderation_lois_ct_lt = 0.25;
+  s.creer_beton_situation_ec();
+  s.affectation_coefficents_ec();
+  s.m_type_loi_els = type_loi_parabole;
+  s.m_deformation_els_rupture = 0.0026;
+  s.m_deformation_elu_rupture = 0.0026;
+  s.assigner_deformations();
+  EXPECT_EQ(s.m_deformation_els_rupture, 0.0026);
+  EXPECT_EQ(s.m_deformation_elu_rupture, 0.0026);
+  EXPECT_EQ(statut_d_arret([&s] { s.creer_lois(); }), 1);
 }
 
 // With a return to state 0 an accident meets a concrete of 28 days, else one of infinite age.
