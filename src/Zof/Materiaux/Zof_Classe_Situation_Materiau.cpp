@@ -47,14 +47,16 @@ constexpr facteurs facteurs_els = {simple(1.05f), simple(0.95f), simple(1.1f), s
 constexpr facteurs facteurs_elu_accident = {1, 1, 1, 1, 1, 0};
 constexpr facteurs facteurs_elu_durable = {simple(1.4175f), simple(0.95f), 1, 1, simple(1.35f), 0};
 
+constexpr std::array<texte<32>, 6> labels_els = {"ELS_CAR",    "ELS_CAR_NF", "ELS_FRE",
+                                                 "ELS_FRE_NF", "ELS_QP",     "ELS_QP_NF"};
+
 const facteurs& loc_facteurs(const texte<32>& label_etat_limite) {
-  const int type = zof_conversion_en_type_etat_limite(label_etat_limite);
-  if (type == etat_limite_elu_durable) return facteurs_elu_durable;
-  if (type == etat_limite_elu_accident) return facteurs_elu_accident;
-  if (type < etat_limite_els_qp) {
-    loc_ecrire_console("label_etat_limite: ", label_etat_limite.utile());
-    zof_assert(false, " Zof_Get_ponderation_efforts_defaut : Cas impossible 2");
-  }
+  if (label_etat_limite == texte<32>("ELU_DURABLE")) return facteurs_elu_durable;
+  if (label_etat_limite == texte<32>("ELU_ACCIDENT")) return facteurs_elu_accident;
+  for (const texte<32>& label : labels_els)
+    if (label == label_etat_limite) return facteurs_els;
+  loc_ecrire_console("label_etat_limite: ", label_etat_limite.utile());
+  zof_assert(false, " Zof_Get_ponderation_efforts_defaut : Cas impossible 2");
   return facteurs_els;
 }
 

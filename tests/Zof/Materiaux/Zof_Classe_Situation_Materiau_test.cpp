@@ -113,6 +113,9 @@ TEST(Ponderations, ParDefaut) {
   };
   for (const ligne& l : std::vector<ligne>{
            {"ELS_CAR", 1.0499999523162842, 0.949999988079071, 1.100000023841858, 0.8999999761581421, 1, 0},
+           {"ELS_CAR_NF", 1.0499999523162842, 0.949999988079071, 1.100000023841858, 0.8999999761581421, 1, 0},
+           {"ELS_FRE", 1.0499999523162842, 0.949999988079071, 1.100000023841858, 0.8999999761581421, 1, 0},
+           {"ELS_QP_NF", 1.0499999523162842, 0.949999988079071, 1.100000023841858, 0.8999999761581421, 1, 0},
            {"ELS_FRE_NF", 1.0499999523162842, 0.949999988079071, 1.100000023841858, 0.8999999761581421, 1, 0},
            {"ELS_QP", 1.0499999523162842, 0.949999988079071, 1.100000023841858, 0.8999999761581421, 1, 0},
            {"ELU_ACCIDENT", 1, 1, 1, 1, 1, 0},
@@ -130,9 +133,10 @@ TEST(Ponderations, ParDefaut) {
 TEST(Ponderations, ParDefautCasImpossibles) {
   EXPECT_EQ(console_d_un_arret([] { zof_get_ponderation_efforts_defaut("ELS_QP", "SEISME", "G"); }),
             "Zof_Get_ponderation_efforts_defaut : cas impossible 0" + fin_d_arret);
-  EXPECT_EQ(
-      console_d_un_arret([] { zof_get_ponderation_efforts_defaut("MECA_NET", "SEISME", "G1"); }),
-      "label_etat_limite: MECA_NET\n Zof_Get_ponderation_efforts_defaut : Cas impossible 2" + fin_d_arret);
+  for (const std::string etat : {"MECA_BRUT", "MECA_NET", "MECA_HOMOGENEISEE", "ELU"})
+    EXPECT_EQ(console_d_un_arret([&etat] { zof_get_ponderation_efforts_defaut(etat, "SEISME", "G1"); }),
+              "label_etat_limite: " + etat + "\n Zof_Get_ponderation_efforts_defaut : Cas impossible 2" +
+                  fin_d_arret);
   EXPECT_EQ(console_d_un_arret([] { zof_get_ponderation_efforts_defaut("ELS_QP", "SEISME", "R1"); }),
             "label_effort: R1\n Zof_Get_ponderation_efforts_defaut : Cas impossible 3" + fin_d_arret);
 }
