@@ -52,6 +52,37 @@ std::string loc_cellule_large(char c, std::size_t largeur) { return std::string(
 
 }  // namespace
 
+TEST(Reglages, ValeursDeDepart) {
+  const utl_02_t depart;
+  EXPECT_EQ(depart.glb_unit_txt, nullptr);
+  EXPECT_EQ(depart.glb_unit_html, nullptr);
+  EXPECT_TRUE(depart.glb_edition_txt);
+  EXPECT_TRUE(depart.glb_edition_html);
+  EXPECT_EQ(depart.glb_lg_separation, 3);
+  EXPECT_EQ(depart.glb_logiciel, 0);
+  EXPECT_EQ(depart.glb_lg_ligne, 300);
+  EXPECT_FALSE(depart.glb_numeroter_titres);
+  EXPECT_FALSE(depart.glb_ecrire_sommaire);
+  EXPECT_FALSE(depart.glb_ecrire_sommaire_dynam);
+  EXPECT_FALSE(depart.glb_renseigner_sommaire);
+  EXPECT_EQ(depart.glb_profondeur_sommaire_voulue, 0);
+  EXPECT_EQ(depart.glb_langue_entete.entier(), "fr");
+  EXPECT_EQ(depart.glb_tiret.entier(), "  ");
+  EXPECT_EQ(depart.glb_espace_puce, 0);
+}
+
+// Any of the three is enough for the titles to be kept.
+TEST_F(NoteTexte, LeSommaireEstRenseigneDesQuIlSert) {
+  utl_02_initialiser({.opt_ecrire_sommaire = false, .opt_ecrire_sommaire_dynam = false});
+  EXPECT_FALSE(utl_02.glb_renseigner_sommaire);
+  utl_02_initialiser({.opt_ecrire_sommaire = true});
+  EXPECT_TRUE(utl_02.glb_renseigner_sommaire);
+  utl_02_initialiser({.opt_ecrire_sommaire = false, .opt_ecrire_sommaire_dynam = true});
+  EXPECT_TRUE(utl_02.glb_renseigner_sommaire);
+  utl_02_initialiser({.opt_numeroter_titres = true, .opt_ecrire_sommaire_dynam = false});
+  EXPECT_TRUE(utl_02.glb_renseigner_sommaire);
+}
+
 TEST_F(NoteTexte, UnTitreAUneFormeParNiveau) {
   EXPECT_EQ(titre("ABC", 0), "***\nABC   \n***\n\n");
   EXPECT_EQ(titre("ABC", 1), "  ---\n  ABC\n  ---\n\n");
