@@ -250,7 +250,10 @@ TEST(Vecteur, Supprimer) {
   EXPECT_THAT(loc_valeurs(v), ElementsAre(1, 4));
   v.ajouter(nombre(6));
   EXPECT_THAT(loc_valeurs(v), ElementsAre(1, 4, 6));
-  v.supprimer(1, 3);
+  v.supprimer(2, 2);
+  v.inserer(4, nombre(9));
+  EXPECT_THAT(loc_valeurs(v), ElementsAre(1, 9)) << "the slots of deleted elements are empty";
+  v.supprimer(1, 4);
   EXPECT_EQ(v.nombre(), 0);
 }
 
@@ -325,6 +328,17 @@ TEST(Vecteur, TransfererCopieLesElements) {
   EXPECT_THAT(loc_valeurs(v), ElementsAre(1, 2));
   v.transferer(uef_vector());
   EXPECT_FALSE(v.est_cree());
+}
+
+TEST(Vecteur, TransfererUneListePolymorphe) {
+  uef_vector source;
+  source.creer("tout", nombre(), 10, true);
+  source.ajouter(nombre(1));
+  source.ajouter(mot());
+  uef_vector v;
+  v.transferer(source);
+  v.ajouter(mot());
+  EXPECT_EQ(v.nombre(), 3) << "the copy takes what the source takes";
 }
 
 TEST(Pointage, JusquALaFinDuBloc) {

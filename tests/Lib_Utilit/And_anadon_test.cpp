@@ -518,6 +518,18 @@ TEST(Capacite, HorsPhraseLUniteEstServieParMorceaux) {
   EXPECT_EQ(l.console(), "");
 }
 
+TEST(Capacite, HorsPhraseLesCaracteresNeDebordentPas) {
+  std::string donnees;
+  for (int i = 0; i < 2500; ++i) donnees += std::string(199, 'x') + "\n";
+  const lecteur l(donnees);
+  lex_analex.lex_mode_mettre_code_fin_ligne = false;
+  and_global.and_mode_phrase = false;
+  int lus = 0;
+  while (loc_terme() && and_global.and_type_terme == type_terme::nom) ++lus;
+  EXPECT_EQ(lus, 2500);
+  EXPECT_EQ(l.console(), "");
+}
+
 TEST(ErreurDonnee, LesModesEtLesVariablesRestent) {
   const lecteur l("1 2\n");
   and_global.and_type_terme = type_terme::entier;

@@ -285,7 +285,8 @@ TEST(Consultation, SansRienOter) {
   };
   and_consulter(2, 1, 1);
   EXPECT_EQ(and_position_lecture(2, 1), 1);
-  EXPECT_EQ(suivant(), 10);
+  and_reconsulter(2, 1);
+  EXPECT_EQ(suivant(), 10) << "nothing comes before the first term";
   EXPECT_EQ(suivant(), 20);
   EXPECT_EQ(and_position_lecture(2, 1), 3);
   and_reconsulter(2, 1);

@@ -95,6 +95,14 @@ TEST(DecodageReelDouble, LesChiffresFoisUnePuissanceDeDix) {
   EXPECT_EQ(loc_double("2.5D-1"), 25 * (1.0 / 100.0));
 }
 
+TEST(DecodageReel, LaLongueurLaPlusGrande) {
+  const auto zeros = [](std::size_t n) { return "1." + std::string(n, '0'); };
+  EXPECT_EQ(loc_simple(zeros(15)), 1.0F);
+  EXPECT_EQ(loc_simple(zeros(16)), std::nullopt) << "18 characters";
+  EXPECT_EQ(loc_double(zeros(19) + "D+0"), 1.0);
+  EXPECT_EQ(loc_double(zeros(20) + "D+0"), std::nullopt) << "25 characters";
+}
+
 TEST(DecodageReelDouble, Refus) {
   EXPECT_EQ(loc_double("1.0D287"), std::nullopt);
   EXPECT_EQ(loc_double("1.0D-287"), std::nullopt);

@@ -152,12 +152,15 @@ TEST(ChaineNumerique, Formats) {
   EXPECT_EQ(zof_chaine_numerique_geometrique(1.23456).entier(), "1.2346         ");
   EXPECT_EQ(zof_chaine_numerique_geometrique(1e9).entier(), "************   ");
   EXPECT_EQ(zof_chaine_numerique_entier(-42).entier(), "-42            ");
+  EXPECT_EQ(zof_chaine_numerique_entier(-999999999).entier(), "-999999999     ");
+  EXPECT_EQ(zof_chaine_numerique_entier(-1000000000).entier(), "**********     ") << "eleven characters";
   EXPECT_EQ(zof_chaine_numerique_entier_ajuste(42, 4), "42  ");
   EXPECT_EQ(zof_chaine_numerique_entier_ajuste(12345, 3), "123");
   EXPECT_EQ(zof_chaine_numerique_entier_ajuste(1, 20), "1                   ");
   EXPECT_EQ(zof_chaine_deformation(0.0035).entier(), "0.35000E-02    ");
   EXPECT_EQ(zof_chaine_flux(-0.00004).entier(), "-0.0000       ");
   EXPECT_EQ(zof_chaine_flux(1.5).entier(), "1.5000        ");
+  EXPECT_EQ(zof_chaine_flux(-1e6).entier(), "************  ") << "thirteen characters";
 }
 
 TEST(ChaineNumerique, NonRenseigne) {

@@ -201,6 +201,9 @@ TEST(Bissecteur, DeDeuxVecteurs) {
   EXPECT_DOUBLE_EQ(b.z, std::sqrt(0.5));
   EXPECT_EQ(zof_vecteur_bissecteur_vecteurs({1, 0}, {-1, 0}), (vecteur_yz{0, -1}))
       << "opposite: the perpendicular of the second";
+  const vecteur_yz presque = zof_vecteur_bissecteur_vecteurs({1, 0}, {-1, 1e-12});
+  EXPECT_NEAR(presque.y, 0, 1e-3);
+  EXPECT_NEAR(presque.z, 1, 1e-6) << "nearly opposite: still their sum";
 }
 
 TEST(Intersection, UnContactCompte) {
@@ -208,6 +211,7 @@ TEST(Intersection, UnContactCompte) {
   EXPECT_TRUE(zof_existe_intersection_segments(s, loc_segment(1, -1, 1, 1)));
   EXPECT_TRUE(zof_existe_intersection_segments(s, loc_segment(1, 0, 1, 1))) << "an end on the segment";
   EXPECT_TRUE(zof_existe_intersection_segments(s, loc_segment(2, 0, 3, 5))) << "an end on an end";
+  EXPECT_TRUE(zof_existe_intersection_segments(s, loc_segment(0, 5, 0, 0))) << "an origin on an extremity";
   EXPECT_FALSE(zof_existe_intersection_segments(s, loc_segment(1, 0.1, 1, 1)));
   EXPECT_FALSE(zof_existe_intersection_segments(s, loc_segment(3, -1, 3, 1)));
   EXPECT_FALSE(zof_existe_intersection_segments(s, loc_segment(0, 1, 2, 1))) << "parallel";
@@ -243,6 +247,8 @@ TEST(Paroi, DeuxFacesParalleles) {
   zof_segment s1 = loc_segment(0, 0, 4, 0);
   zof_segment s2 = loc_segment(1, 0.2, 3, 0.2);
   s1.m_la_position = s2.m_la_position = 7;
+  s1.m_le_numero_zone = 2;
+  s1.m_le_numero_segment = 3;
   const zof_paroi p = zof_paroi_commune_segments(s1, s2, 0.5, 12);
   EXPECT_EQ(p.m_le_pt_segment_1, &s1);
   EXPECT_EQ(p.m_le_pt_segment_2, &s2);
@@ -254,6 +260,8 @@ TEST(Paroi, DeuxFacesParalleles) {
   EXPECT_NEAR(p.m_le_segment_moyen.m_le_centre.m_y, 2, 1e-15);
   EXPECT_EQ(p.m_la_position, 7);
   EXPECT_EQ(p.m_le_segment_moyen.m_la_position, 7);
+  EXPECT_EQ(p.m_le_segment_moyen.m_le_numero_zone, 2);
+  EXPECT_EQ(p.m_le_segment_moyen.m_le_numero_segment, 3);
   EXPECT_EQ(p.m_le_numero_paroi, 12);
 }
 
@@ -263,8 +271,8 @@ TEST(Paroi, UneFaceInclinee) {
   s2.m_la_position = 1;
   const zof_paroi p = zof_paroi_commune_segments(s1, s2, 1, 1);
   ASSERT_NE(p.m_le_pt_segment_1, nullptr);
-  // The mean segment rises by 1 in 20. Across it: from the start of the second face down to the first one, and from the
-  // end of the first face up to the second one, which rises by 1 in 10.
+  // The mean segment rises by 1 in 20. Across it: from the start of the second face down to the first one,
+  // and from the end of the first face up to the second one, which rises by 1 in 10.
   EXPECT_NEAR(p.m_l_epaisseur_moyenne, (0.2 + 0.4 / 1.005) * std::sqrt(1.0025) / 2, 1e-15);
   EXPECT_FALSE(est_renseigne_integer(p.m_la_position)) << "the two segments disagree";
 }
@@ -313,6 +321,36 @@ TEST(Zone, ChercherParNom) {
   EXPECT_EQ(zof_pointeur_zone(v, "AME").m_pt_zone, &ame);
   EXPECT_EQ(zof_pointeur_zone(v, "TALON").m_pt_zone, nullptr);
   EXPECT_EQ(zof_cp_pointeur_zone(*v.copier(2)).m_pt_zone, &ame) << "the reference is copied, not the zone";
+}
+
+TEST(Zone, LaCopieATousLesChamps) {
+  zone_d_essai z;
+  int numero = 0;
+  z.set_zone_deja_creee(true);
+  z.set_section_precontrainte(true);
+  z.set_titre_zone("Ame");
+  z.set_nom_zone("AME");
+  z.m_est_sous_section = true;
+  z.set_numero_section_qb7(1);
+  z.inc_numero_courant_point_section_qb7();
+  for (int i = 0; i < 2; ++i) z.inc_numero_courant_qb7_zone_generalisee();
+  for (int i = 0; i < 3; ++i) z.inc_numero_courant_point_zone_type(numero);
+  z.set_numero_zone_qb7(4);
+  z.set_symetrie(5);
+  z.set_forme_zone(6);
+  const zone_d_essai copie(z);
+  EXPECT_TRUE(copie.is_zone_deja_creee());
+  EXPECT_TRUE(copie.is_section_precontrainte());
+  EXPECT_TRUE(copie.get_titre_zone() == "Ame");
+  EXPECT_TRUE(copie.get_nom_zone() == "AME");
+  EXPECT_TRUE(copie.m_est_sous_section);
+  EXPECT_EQ(copie.get_numero_section_qb7(), 1);
+  EXPECT_EQ(copie.get_numero_courant_point_section_qb7(), 1);
+  EXPECT_EQ(copie.get_numero_courant_qb7_zone_generalisee(), 2);
+  EXPECT_EQ(copie.get_numero_courant_point_zone_type(), 3);
+  EXPECT_EQ(copie.get_numero_zone_qb7(), 4);
+  EXPECT_EQ(copie.get_symetrie(), 5);
+  EXPECT_EQ(copie.get_forme_zone(), 6);
 }
 
 TEST(Zone, LaCopieASaPropreListeDEnfants) {
