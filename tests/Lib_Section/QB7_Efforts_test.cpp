@@ -456,6 +456,21 @@ TEST_F(Efforts, EffortsDUneUniteDAcier) {
   EXPECT_EQ(eff_mat_acier(2, d), efforts{});
 }
 
+// Bars that stand in a void displace nothing.
+TEST_F(Efforts, EffortsDUneUniteDAcierDansUnVide) {
+  const std::vector<point_yz> barre = {{0, 0.05}};
+  creer_zone(1, 1, qb7_zone_contour, beton, carre);
+  creer_zone(1, 2, qb7_zone_contour, qb7_sans_materiau, vide);
+  creer_zone(1, 3, qb7_zone_semis, acier, barre);
+  reussit(qb7_fixer_num_zone_mere(1, 2, 1));
+  reussit(qb7_fixer_num_zone_mere(1, 3, 2));
+  reussit(qb7_fixer_param_zone(1, 3, 1e-3));
+  reussit(qb7_fixer_type_trou(acier, el, qb7_trou_encombrement));
+  reussit(calculer());
+  const deformation d = {0.0002, 0.001, 0.001};
+  forces_proches(eff_mat_acier(3, d), des_barres(d, barre, 1e-3, acier).eff, 1e-16);
+}
+
 // The table of a smaller section after that of a larger one holds nothing of it.
 TEST_F(Efforts, LaTableNeGardeRienDUneSectionAuneAutre) {
   creer_zone(1, 1, qb7_zone_contour, beton, carre);

@@ -206,6 +206,35 @@ TEST_F(Equilibre, UnRedemarragePartDuMeilleurPlanAvecDesPasMoitiesPlusCourts) {
   for (std::size_t i = 6; i < pas.size(); ++i) EXPECT_NEAR(pas[i] / pas[i - 1], 0.5, 1e-4);
 }
 
+// A residual of a hundred times the forces is no plane to come back to. The start is too large a plane, 98 or
+// 100 times the solution on the other side: with a residual of 99 times the forces it is the best one seen,
+// and each restart meets it again; with 101 times the search goes back to zero.
+TEST_F(Equilibre, UnPlanALaDeriveNEstPasLeMeilleur) {
+  creer_zone(1, 1, qb7_zone_contour, elastique, rectangle);
+  const double solution = 0.9 / 5400;
+  qb7_par.qb7_par_deform_max = 2 * solution;
+  deformation d = {-98 * solution, 0, 0};
+  EXPECT_EQ(solliciter({0.9, 0, 0}, d, false).code, ERR_EQUILIBRE);
+  d = {-100 * solution, 0, 0};
+  reussit(solliciter({0.9, 0, 0}, d));
+  EXPECT_NEAR(d.e0, solution, 1e-5 * solution);
+}
+
+// Two plateaus, each left by a step on the old tangent, 1000 MPa, and a tangent between them: at 0.0015 (1
+// MPa), 0.0020 (1.1 MPa, slope 1000), 0.0024 (1.3 MPa), 0.0026, then the solution. The count begins again.
+TEST_F(Equilibre, UneBonneRaideurRemetLeCompteAZero) {
+  reussit(qb7_loi_multi_lin(9, el, std::array{-0.001, 0.001, 0.0019, 0.0022, 0.00255, 0.003},
+                            std::array{-1.0, 1.0, 1.0, 1.3, 1.3, 46.3}));
+  creer_zone(1, 1, qb7_zone_contour, 9, rectangle);
+  tracer();
+  deformation d;
+  reussit(solliciter({1.5 * 0.18, 0, 0}, d));
+  EXPECT_NEAR(d.e0, 0.00255 + 0.2 / 1e5, 1e-9);
+  const std::string texte = trace();
+  EXPECT_EQ(compter(texte, "          ==> 1eme iteration sans changement de raideur\n"), 2);
+  EXPECT_EQ(compter(texte, "          ==> 2eme iteration sans changement de raideur\n"), 0);
+}
+
 // Without forces no plane is ever the best one, and a restart goes back to zero: here that is the
 // equilibrium.
 TEST_F(Equilibre, SansEffortsUnRedemarrageRevientAuPlanNul) {

@@ -77,6 +77,15 @@ TEST(Racines, UneParaboleTangenteADixPuissanceMoinsQuatorzeAUneRacineDouble) {
   EXPECT_EQ(rac_chercher(std::array{1 - 5e-14, -2.0, 1.0}).n_racs, 2);
 }
 
+// The closed form finds the three roots to the rounding of the largest; polished, each has its own digits.
+TEST(Racines, LaPetiteRacineDUneCubiqueEstAffinee) {
+  const racines r = rac_chercher(loc_polynome_de_racines({1e-6, 1, 1e6}));
+  ASSERT_EQ(r.n_racs, 3);
+  EXPECT_NEAR(r.racs[0], 1e-6, 1e-18);
+  EXPECT_NEAR(r.racs[1], 1, 1e-12);
+  EXPECT_NEAR(r.racs[2], 1e6, 1e-6);
+}
+
 TEST(Racines, MultiplicitesDUneCubique) {
   const racines double_puis_simple = rac_chercher(loc_polynome_de_racines({1, 1, 2}));
   loc_attendre({1, 2}, double_puis_simple, 1e-7);
