@@ -18,16 +18,19 @@
 // ---- Life of the engine ----
 
 void qb7_quitter() {
+  qb7_err_effacer();
   eff_vider();
   gbd_glob_reinitialiser();
   par_renitialiser();
 }
 
-void qb7_reinit_loi() { gbd_glob.glob_lst_lois.lst_vider(); }
+void qb7_reinit_loi() {
+  qb7_err_effacer();
+  gbd_glob.glob_lst_lois.lst_vider();
+}
 
 ier_2 qb7_fixer_trace_dimensionnement(int unite_trace_optimisation, socle::vue_l1 fichier_trace_optimisation,
                                       bool effacer, bool trace_equilibre) {
-  qb7_err_effacer();
   qb7_clore_trace_dimensionnement();
   qb7_par.qb7_par_unite_trace_optimisation = unite_trace_optimisation;
   qb7_par.qb7_par_fichier_trace_optimisation = fichier_trace_optimisation;
@@ -40,7 +43,10 @@ ier_2 qb7_fixer_trace_dimensionnement(int unite_trace_optimisation, socle::vue_l
                      ouverte ? ier_2{} : ier_2{ERR_FICHIER_TRACE, unite_trace_optimisation});
 }
 
-void qb7_clore_trace_dimensionnement() { qb7_par.qb7_par_trace.reset(); }
+void qb7_clore_trace_dimensionnement() {
+  qb7_err_effacer();
+  qb7_par.qb7_par_trace.reset();
+}
 
 // ---- Sections ----
 
@@ -307,9 +313,10 @@ ier_2 qb7_activer_zone(int num_section, int num_zone, bool active, bool filles) 
   if (!filles)
     return qb7_pour_zone("QB7_Activer_Zone", num_section, num_zone,
                          [&](gbd_zone& zone) { zone.etat_zone.active = active; });
-  return qb7_sur_section("QB7_Activer_Zone", num_section, [&](gbd_section& section) {
-    return gbd_sect_fixer_activ_totale(section, num_zone, active);
-  });
+  return qb7_sur_zone_de_section("QB7_Activer_Zone", num_section, num_zone,
+                                 [&](gbd_section& section, const gbd_zone&) {
+                                   return gbd_sect_fixer_activ_totale(section, num_zone, active);
+                                 });
 }
 
 ier_2 qb7_activite_zone(int num_section, int num_zone, bool& active) {

@@ -73,6 +73,28 @@ TEST_F(Rdm, LaLoiInverseSurUnPalierDonneLaPlusPetiteDeformation) {
   EXPECT_DOUBLE_EQ(inverse(4, -400), -0.002);
 }
 
+// On a plateau the end of smaller magnitude, even where the plateau holds strain 0; an interval without end
+// has only one.
+TEST_F(Rdm, LaLoiInverseSurUnPalierEntreDeuxNoeuds) {
+  const std::array<qb7_polynome, 3> paliers = {{{1}, {5}, {9}}};
+  reussit(qb7_creer_loi(9, el, std::array{-1.0, -0.001, 0.001}, 0, paliers));
+  EXPECT_EQ(inverse(9, 5), -0.001) << "the lower end in a tie";
+  EXPECT_EQ(inverse(9, 1), -0.001);
+  EXPECT_EQ(inverse(9, 9), 0.001);
+  reussit(qb7_creer_loi(10, el, std::array{-1.0, -0.003, 0.001}, 0, paliers));
+  EXPECT_EQ(inverse(10, 5), 0.001);
+}
+
+// Of several strains the one of smallest magnitude, in whatever interval it lies; the first one in a tie.
+TEST_F(Rdm, LaLoiInverseParmiPlusieursDeformations) {
+  reussit(qb7_creer_loi(9, el, std::array{0.0}, 2, std::array<qb7_polynome, 1>{{{0, 0, 1}}}));
+  EXPECT_EQ(inverse(9, 4), -2) << "of the two roots of a parabola";
+  reussit(qb7_creer_loi(10, el, std::array{-1.0, 0.0}, 1, std::array<qb7_polynome, 2>{{{0, -1}, {0, 1}}}));
+  EXPECT_EQ(inverse(10, 3), -3) << "of two intervals";
+  reussit(qb7_creer_loi(11, el, std::array{-1.0, 0.0}, 1, std::array<qb7_polynome, 2>{{{0, -1}, {0, 2}}}));
+  EXPECT_EQ(inverse(11, 6), 3);
+}
+
 TEST_F(Rdm, LaLoiInverseDUneLoiConstante) {
   reussit(qb7_loi_lin_bilin(5, el, qb7_loi_nulle));
   EXPECT_EQ(inverse(5, 0), 0);
@@ -117,8 +139,21 @@ TEST_F(Rdm, ModifierLaLoiSuitSaDefinition) {
       }
       EXPECT_EQ(modifiee.epsilon_min, loi.epsilon_min);
       EXPECT_EQ(modifiee.epsilon_max, loi.epsilon_max);
+      EXPECT_EQ(modifiee.degre, loi.degre);
     }
   }
+}
+
+// A share of the section's strain alone is no history: the tendon has no strain of its own yet.
+TEST_F(Rdm, LaLoiEstModifieeParUneDeformationEtNonParRho) {
+  EXPECT_FALSE(gbd_zone_loi_est_modifiee(loc_zone({})));
+  EXPECT_FALSE(gbd_zone_loi_est_modifiee(loc_zone({.rho = 0.5, .epsilon_m = 1, .epsilon_z = 1})));
+  EXPECT_TRUE(gbd_zone_loi_est_modifiee(loc_zone({.epsilon_a = -1e-9})));
+  EXPECT_TRUE(gbd_zone_loi_est_modifiee(loc_zone({.epsilon_b = 1e-9})));
+  EXPECT_TRUE(gbd_zone_loi_est_modifiee(loc_zone({.epsilon_p = 1e-9})));
+  gbd_zone zone = loc_zone({.epsilon_a = 1});
+  gbd_zone_fixer_modif_loi(zone, {});
+  EXPECT_FALSE(gbd_zone_loi_est_modifiee(zone));
 }
 
 TEST_F(Rdm, DeformationsDUnPoint) {
@@ -178,6 +213,18 @@ TEST_F(Rdm, SansCoefficientDeFluageLaContrainteResteElastique) {
   EXPECT_EQ(r.epsilon_fluage, 0);
 }
 
+// The threshold is 1e-6 in single precision, a hair below 1e-6: on a law of slope 1 a stress equal to it does
+// not creep, and 1e-6 does, in the one halving that brings the interval under the threshold.
+TEST_F(Rdm, LeSeuilDuFluageEstEnSimplePrecision) {
+  reussit(qb7_loi_lin_bilin(8, el, qb7_loi_lineaire, 1));
+  const gbd_loi& loi = loi_du_moteur(8);
+  const double seuil = 9.999999974752427e-7;
+  EXPECT_EQ(rdm_etat_point_zone_fluage(loi, {0, 0}, 3, {seuil, 0, 0}, {}).sigma_perm, 0);
+  const auto r = rdm_etat_point_zone_fluage(loi, {0, 0}, 3, {1e-6, 0, 0}, {});
+  EXPECT_EQ(r.sigma_perm, 5e-7);
+  EXPECT_EQ(r.epsilon_fluage, 3 * 5e-7);
+}
+
 TEST_F(Rdm, UnPointTenduNeFluePas) {
   const auto r = rdm_etat_point_zone_fluage(loi_du_moteur(1), {0, 0}, 1e-4, {-0.001, 0, 0}, {-0.0015, 0, 0});
   EXPECT_EQ(r.sigma_perm, 0);
@@ -211,6 +258,20 @@ TEST_F(Rdm, CaracteristiquesDUnRectangleTourne) {
       EXPECT_NEAR(r.alpha, angle, 1e-13);
       EXPECT_NEAR(r.e_iy, iy, 1e-14);
     }
+  }
+}
+
+// A product of inertia of 1e-12 counts as none; above it turns the axes, by its ratio to the difference of
+// the inertias.
+TEST_F(Rdm, UnProduitDInertieNegligeable) {
+  for (const double e_iyz : {1e-12, -1e-12}) {
+    const auto r = rdm_caracteristiques({1, 0, 2, 0, -e_iyz, 1});
+    EXPECT_EQ(r.alpha, 0);
+    EXPECT_EQ(r.e_iy, 2);
+    EXPECT_EQ(r.e_iz, 1);
+  }
+  for (const double e_iyz : {1.01e-12, -1.01e-12}) {
+    EXPECT_NEAR(rdm_caracteristiques({1, 0, 2, 0, -e_iyz, 1}).alpha, -e_iyz, 1e-24);
   }
 }
 

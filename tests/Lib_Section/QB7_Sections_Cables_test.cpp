@@ -146,6 +146,25 @@ TEST_F(Cables, ReinitialiserRendLaLoiTelleQuElleEst) {
   EXPECT_THAT(journal_du_moteur(), ElementsAre("LOC_Chercher_Zone", "QB7_Reinitialiser_Cable"));
 }
 
+// Snapshots carry the whole history: recalled, the tendon is again the force that it was.
+TEST_F(Cables, RappelerUnEtatRendLaTension) {
+  EXPECT_EQ(qb7_creer_etat(S, 1), reussite);
+  EXPECT_EQ(tendre(), reussite);
+  EXPECT_EQ(qb7_creer_etat(S, 2), reussite);
+  EXPECT_EQ(qb7_rappeller_etat(S, 1), reussite);
+  EXPECT_FALSE(active(2));
+  EXPECT_NEAR(efforts_de({}).n, 0, 1e-12);
+  EXPECT_EQ(qb7_completer_etat(S, 2), reussite);
+  EXPECT_NEAR(efforts_de({}).n, sigma_0 * aire_cable, 1e-12);
+  EXPECT_EQ(qb7_reinitialiser_cable(S, std::array{2}), reussite);
+  EXPECT_EQ(qb7_rappeller_etat(S, 2), reussite);
+  EXPECT_NEAR(efforts_de({}).n, sigma_0 * aire_cable, 1e-12);
+  EXPECT_EQ(qb7_copier_section(S, 2), reussite);
+  efforts de_la_copie;
+  EXPECT_EQ(qb7_deformer_section(2, perm, {}, de_la_copie), reussite);
+  EXPECT_NEAR(de_la_copie.n, sigma_0 * aire_cable, 1e-12);
+}
+
 // At the plane of the bond the force does not jump; from there on the tendon takes rho of the section's
 // strain.
 TEST_F(Cables, LInjectionECEstContinue) {
@@ -244,6 +263,21 @@ TEST_F(Cables, EtatsPermanentsRefuses) {
       << "the second cable";
 }
 
+// The mother's stress is read on her permanent law: she must have one, and be there.
+TEST_F(Cables, EtatPermanentSansLaMere) {
+  EXPECT_EQ(tendre(), reussite);
+  EXPECT_EQ(qb7_supprimer_loi(beton, perm), reussite);
+  EXPECT_EQ(qb7_etat_permanent(S, toron, perm, final_, 6, 0, 1), (ier_2{ERR_NON_LOI, beton}));
+  EXPECT_EQ(qb7_activer_zone(S, 1, false, false), reussite);
+  EXPECT_EQ(qb7_etat_permanent(S, toron, perm, final_, 6, 0, 1), (ier_2{ERR_MERE_INACTIVE, 1}));
+  EXPECT_EQ(qb7_fixer_num_zone_mere(S, 2, qb7_sans_mere), reussite);
+  EXPECT_EQ(qb7_etat_permanent(S, toron, perm, final_, 6, 0, 1), (ier_2{ERR_MERE_INACTIVE, 2}));
+  EXPECT_EQ(qb7_supprimer_zone(S, 1), reussite);
+  EXPECT_EQ(qb7_fixer_num_zone_mere(S, 2, 1), reussite);
+  EXPECT_EQ(qb7_etat_permanent(S, toron, perm, final_, 6, 0, 1), (ier_2{ERR_NON_MERE, 1}));
+  EXPECT_THAT(journal_du_moteur(), ElementsAre("QB7_Etat_Permanent"));
+}
+
 // The mother was strained past its limit when the tendon was bonded.
 TEST_F(Cables, EtatPermanentVoitLaLimiteDeLaMere) {
   EXPECT_EQ(tendre(), reussite);
@@ -261,4 +295,5 @@ TEST_F(Cables, EtatPermanentSansDeformationFinale) {
       reussite);
   EXPECT_EQ(tendre(true), reussite);
   EXPECT_EQ(qb7_etat_permanent(S, toron, perm, 1003, 6, 0, 1), (ier_2{ERR_NON_EPSILON, 2}));
+  EXPECT_THAT(journal_du_moteur(), ElementsAre("RDM_Deformation_Materiau", "QB7_Etat_Permanent"));
 }

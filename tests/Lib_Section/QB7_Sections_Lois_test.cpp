@@ -72,9 +72,15 @@ TEST_F(MagasinDeLois, LoisRefusees) {
   EXPECT_EQ(creer({0, 1, 1, 1}, 2, 4), (ier_2{ERR_DEF_LOI, 2})) << "the first in a tie";
   EXPECT_EQ(creer({0, 1, 2, 2}, 2, 4), (ier_2{ERR_DEF_LOI, 3}));
   EXPECT_THAT(journal_du_moteur(), ElementsAre("QB7_Creer_Loi"));
-  int n = 0;
-  int d = 0;
+  int n = 7;
+  int d = 7;
   EXPECT_EQ(qb7_lire_dims_loi(M, EL, n, d), (ier_2{ERR_NON_LOI, M}));
+  EXPECT_EQ(n + d, 0);
+  std::array<double, 1> epsilons{7};
+  std::array<qb7_polynome, 1> coeffs{{{7, 7, 7, 7}}};
+  EXPECT_EQ(qb7_lire_tabs_loi(M, EL, epsilons, coeffs), (ier_2{ERR_NON_LOI, M}));
+  EXPECT_EQ(epsilons[0], 0);
+  EXPECT_EQ(coeffs[0], qb7_polynome{});
 }
 
 // The first left end takes no part in the evaluation: its step may be anything.

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "Outils.hpp"
+#include "QB7_GBD_SECT.hpp"
 #include "moteur.hpp"
 
 namespace {
@@ -35,6 +36,9 @@ class Magasin : public Moteur {
     bool a = false;
     EXPECT_EQ(qb7_activite_zone(S, num_zone, a), reussite);
     return a;
+  }
+  static std::vector<bool> critiques(int num_zone) {
+    return gbd_glob.glob_lst_sections.lst_chercher_elt(S)->lst_zones.lst_chercher_elt(num_zone)->critiques;
   }
   static deformation plan_de_zone(int num_zone, int type_attendu = qb7_deform_cumulee) {
     int type = 0;
@@ -120,6 +124,15 @@ TEST_F(Magasin, UnLecteurQuiEchoueMetSesResultatsAZero) {
     EXPECT_TRUE(lire(S, 9, oui));
     EXPECT_FALSE(oui);
   }
+  std::array<int, 2> liste{7, 7};
+  EXPECT_TRUE(qb7_lire_liste_pts_zone(S, 9, liste));
+  EXPECT_THAT(liste, ElementsAre(0, 0));
+  liste = {7, 7};
+  EXPECT_TRUE(qb7_lire_liste_zones(9, liste));
+  EXPECT_THAT(liste, ElementsAre(0, 0));
+  d = {7, 7, 7};
+  EXPECT_TRUE(qb7_completer_etat(S, 9, &d));
+  EXPECT_EQ(d, deformation{});
   repere r{1, 1, 1, 1, 1};
   EXPECT_TRUE(qb7_lire_repere_sollicitation(9, r));
   EXPECT_EQ(r, repere{});
@@ -335,10 +348,50 @@ TEST_F(Magasin, Inclinaisons) {
   EXPECT_EQ(z, -0.02);
 }
 
+TEST_F(Magasin, UnNumeroPrisEstEcraseSiCEstPermis) {
+  EXPECT_EQ(qb7_activer_zone(S, 3, true, false), reussite);
+  EXPECT_EQ(qb7_creer_etat(S, 7, {1, 2, 3}), reussite);
+  qb7_par.qb7_par_ecraser_permis = true;
+  EXPECT_EQ(qb7_creer_point(S, 101, 8, 9), reussite);
+  double y = 0;
+  double z = 0;
+  EXPECT_EQ(qb7_lire_point(S, 101, y, z), reussite);
+  EXPECT_EQ(y, 8);
+  EXPECT_EQ(z, 9);
+  EXPECT_EQ(qb7_creer_zone(S, 3, 1003, 5, std::array{101}), reussite);
+  int n = 0;
+  EXPECT_EQ(qb7_lire_type_zone(S, 3, n), reussite);
+  EXPECT_EQ(n, 1003);
+  EXPECT_FALSE(active(3)) << "as a new zone";
+  EXPECT_EQ(qb7_creer_etat(S, 7, {4, 5, 6}), reussite);
+  deformation plan;
+  EXPECT_EQ(qb7_rappeller_etat(S, 7, &plan), reussite);
+  EXPECT_EQ(plan, (deformation{4, 5, 6}));
+  EXPECT_EQ(qb7_creer_section(2), reussite);
+  EXPECT_EQ(qb7_copier_section(S, 2), reussite);
+  qb7_tailles_section tailles;
+  EXPECT_EQ(qb7_lire_section(2, tailles), reussite);
+  EXPECT_EQ(tailles.nbre_zones, 4);
+  EXPECT_EQ(qb7_creer_section(S), reussite);
+  EXPECT_EQ(qb7_lire_section(S, tailles), reussite);
+  EXPECT_EQ(tailles.nbre_zones + tailles.nbre_points + tailles.nbre_etats, 0);
+}
+
+TEST_F(Magasin, LesPointsDUneZoneNouvelleSontTousCritiques) {
+  EXPECT_THAT(critiques(1), ElementsAre(true, true, true, true));
+  EXPECT_EQ(qb7_fixer_critiques(S, 1, std::array{101, 103, 104}, false), reussite);
+  EXPECT_THAT(critiques(1), ElementsAre(false, true, false, false));
+  EXPECT_EQ(qb7_fixer_critiques(S, 1, std::array{104}, true), reussite);
+  EXPECT_THAT(critiques(1), ElementsAre(false, true, false, true));
+  EXPECT_EQ(qb7_supprimer_point_zone(S, 1, 101), reussite);
+  EXPECT_THAT(critiques(1), ElementsAre(true, false, true)) << "each flag stays with its point";
+}
+
 TEST_F(Magasin, UnPointCritiqueDoitEtreDeLaZone) {
   EXPECT_EQ(qb7_fixer_critiques(S, 1, std::array{101, 104}, false), reussite);
   EXPECT_EQ(qb7_fixer_critiques(S, 1, std::array{102, 201}, false), (ier_2{ERR_NON_POINT, 201}));
   EXPECT_THAT(journal_du_moteur(), ElementsAre("QB7_Fixer_Critiques"));
+  EXPECT_THAT(critiques(1), ElementsAre(false, false, true, false)) << "what came before the refusal stands";
 }
 
 TEST_F(Magasin, UneZoneSupprimeeQuitteAussiLesEtats) {
@@ -572,6 +625,14 @@ TEST_F(Trace, SOuvreSurUnFichierEffaceOuALaSuite) {
   qb7_clore_trace_dimensionnement();
   EXPECT_EQ(par_trace_optimisation(), nullptr);
   EXPECT_EQ(m_machine.fichiers["a.tra"], "");
+}
+
+TEST_F(Trace, QuitterLaFerme) {
+  EXPECT_EQ(qb7_fixer_trace_dimensionnement(99, "a.tra", true, true), reussite);
+  par_trace_optimisation()->ligne("un");
+  qb7_quitter();
+  EXPECT_EQ(par_trace_optimisation(), nullptr);
+  EXPECT_EQ(m_machine.fichiers["a.tra"], "un\n");
 }
 
 TEST_F(Trace, UnFichierQuiNeSOuvrePas) {
