@@ -237,11 +237,12 @@ TEST_F(Efforts, PairesDeMeresEtDeFilles) {
     bool permise;
   };
   const std::vector<paire> paires = {
-      {1001, 1, 1001, 1, true},   {1001, 1, 1002, 0.5, true}, {1001, 1, 1003, 0.5, true},
-      {1001, 1, 1004, 0.5, true}, {1002, 1, 1001, 1, true},   {1002, 1, 1002, 1, false},
-      {1002, 0, 1002, 1, false},  {1002, 1, 1003, 1, true},   {1002, 1, 1003, 0.5, false},
-      {1002, 0, 1003, 0.5, true}, {1002, 1, 1004, 2, false},  {1002, 0, 1004, 2, true},
-      {1003, 1, 1004, 1, false},  {1004, 1, 1004, 1, false},  {1004, 0, 1001, 1, false}};
+      {1001, 1, 1001, 1, true},      {1001, 1, 1002, 0.5, true}, {1001, 1, 1003, 0.5, true},
+      {1001, 1, 1004, 0.5, true},    {1002, 1, 1001, 1, true},   {1002, 1, 1002, 1, false},
+      {1002, 0, 1002, 1, false},     {1002, 1, 1003, 1, true},   {1002, 1, 1003, 0.5, false},
+      {1002, 0.3, 1003, 0.5, false}, {1002, 0.3, 1004, 1, true}, {1002, 0, 1003, 0.5, true},
+      {1002, 1, 1004, 2, false},     {1002, 0, 1004, 2, true},   {1003, 1, 1004, 1, false},
+      {1004, 1, 1004, 1, false},     {1004, 0, 1001, 1, false}};
   int section = 1;
   for (const paire& p : paires) {
     SCOPED_TRACE(std::to_string(p.mere) + " and " + std::to_string(p.fille));
@@ -369,6 +370,26 @@ TEST_F(Efforts, LimitesDUnCable) {
   EXPECT_FALSE(depasse({.rho = 1, .epsilon_a = -0.006, .epsilon_p = -0.006}, -0.0039));
   EXPECT_TRUE(depasse({.rho = 1, .epsilon_a = -0.006, .epsilon_p = -0.006}, -0.0041));
   EXPECT_TRUE(depasse({.rho = 1, .epsilon_a = -0.006, .epsilon_p = -0.006, .epsilon_z = -0.001}, -0.0035));
+}
+
+// The same on the other side, of a steel limited at 0.001 and -0.0015.
+TEST_F(Efforts, LimiteSuperieureDUneZoneQuiAUneHistoire) {
+  reussit(qb7_loi_lin_bilin(9, el, qb7_loi_lineaire, 200000, -300, 200));
+  creer_zone(1, 1, qb7_zone_semis, 9, {{0, 0}});
+  reussit(qb7_fixer_param_zone(1, 1, 1e-3));
+  const auto depasse = [](double epsilon_a, double epsilon_z, double e) {
+    reussit(qb7_fixer_modif_lois_zone(1, 1, {.rho = 1, .epsilon_a = epsilon_a, .epsilon_z = epsilon_z}));
+    reussit(calculer());
+    ier_2 ier;
+    forces({e, 0, 0}, &ier);
+    return ier == ier_2{ERR_EPSILON_LIM, 1};
+  };
+  EXPECT_FALSE(depasse(0.0004, 0, 0.00059));
+  EXPECT_TRUE(depasse(0.0004, 0, 0.00061));
+  EXPECT_FALSE(depasse(0.0004, 0.0002, 0.00039));
+  EXPECT_TRUE(depasse(0.0004, 0.0002, 0.00041));
+  EXPECT_FALSE(depasse(0.0004, 0.0002, -0.00209));
+  EXPECT_TRUE(depasse(0.0004, 0.0002, -0.00211));
 }
 
 TEST_F(Efforts, LePlanDUneZoneSAjouteOuRemplace) {

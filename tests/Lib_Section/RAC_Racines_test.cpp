@@ -73,7 +73,7 @@ TEST(Racines, UneParaboleTangenteADixPuissanceMoinsQuatorzeAUneRacineDouble) {
   ASSERT_EQ(r.n_racs, 1);
   EXPECT_EQ(r.rangs_racs[0], 2);
   EXPECT_DOUBLE_EQ(r.racs[0], 1);
-  EXPECT_EQ(rac_chercher(std::array{1 + 5e-14, -2.0, 1.0}).n_racs, 0);
+  EXPECT_EQ(rac_chercher(std::array{1 + 1.2e-14, -2.0, 1.0}).n_racs, 0);
   EXPECT_EQ(rac_chercher(std::array{1 - 5e-14, -2.0, 1.0}).n_racs, 2);
 }
 
