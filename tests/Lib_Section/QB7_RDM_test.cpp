@@ -1,5 +1,6 @@
 #include "QB7_RDM.hpp"
 
+#include <cmath>
 #include <numbers>
 
 #include "Moteur_de_test.hpp"
@@ -281,4 +282,15 @@ TEST_F(Rdm, InertiesEgalesTournentDeQuaranteCinqDegres) {
   EXPECT_DOUBLE_EQ(r.alpha, std::numbers::pi / 4);
   EXPECT_DOUBLE_EQ(r.e_iy, 1.5);
   EXPECT_DOUBLE_EQ(r.e_iz, 2.5);
+}
+
+// Moments of zero, of either sign, put the centroid at 0 and never at -0.
+TEST(RdmCaracteristiques, UnCentreSurLAxeEstAZeroPositif) {
+  for (const double zero : {0.0, -0.0}) {
+    const auto r = rdm_caracteristiques({0.18, zero, 0.0054, zero, 0, 0.00135});
+    EXPECT_EQ(r.yg, 0);
+    EXPECT_EQ(r.zg, 0);
+    EXPECT_FALSE(std::signbit(r.yg));
+    EXPECT_FALSE(std::signbit(r.zg));
+  }
 }

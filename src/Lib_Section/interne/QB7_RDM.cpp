@@ -181,7 +181,9 @@ void rdm_modifier_loi(const gbd_zone& zone, gbd_loi& loi) {
 
 caracteristiques_mecaniques rdm_caracteristiques(const rigidite& mat) {
   const double s_y = -mat.a3;  // ∫σ' y
-  caracteristiques_mecaniques c{.yg = s_y / mat.a1, .zg = mat.a2 / mat.a1, .e_sx = mat.a1};
+  // A centroid on an axis stands at 0, not at the -0 that sums of moments may leave: a reader of -0.0000 sees
+  // a fault in it.
+  caracteristiques_mecaniques c{.yg = s_y / mat.a1 + 0.0, .zg = mat.a2 / mat.a1 + 0.0, .e_sx = mat.a1};
   c.e_iy = mat.b2 - mat.a2 * mat.a2 / mat.a1;
   c.e_iz = mat.c3 - mat.a3 * mat.a3 / mat.a1;
   loc_axes_principaux(-mat.b3 - mat.a2 * s_y / mat.a1, c);

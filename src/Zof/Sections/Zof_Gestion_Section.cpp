@@ -367,9 +367,8 @@ void loc_editer_caracteristiques(std::string_view intitule, const caracteristiqu
                                                                    {"Inertie z (m4) : ", c.e_iz}}};
   utl_02_ecrire_puce(intitule);
   utl_02_debut_puce();
-  // A centroid on the axis is told as 0 and not as -0.
   for (const auto& [label, valeur] : lignes)
-    utl_02_ecrire_puce(concat({label, zof_chaine_numerique_double(valeur + 0.0).utile()}));
+    utl_02_ecrire_puce(concat({label, zof_chaine_numerique_double(valeur).utile()}));
   utl_02_fin_puce();
 }
 
