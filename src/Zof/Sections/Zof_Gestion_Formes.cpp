@@ -88,12 +88,18 @@ void loc_assert_nombre_points(int nombre, bool& erco) {
                       concat({" Numero de point incorrect >", std::to_string(numero_point_max)}), erco);
 }
 
+// The first 27 letters of a name and a suffix; fewer letters where a longer suffix would not fit.
+texte<32> loc_nom_suffixe(const texte<32>& nom, const std::string& suffixe) {
+  const auto place = std::min<std::size_t>(27, 32 - suffixe.size());
+  return concat({nom.utile().substr(0, place), suffixe});
+}
+
 // The void of a hollow form: named after its contour, and complete before anything that follows.
 void loc_creer_evidement(zof_zone& contour, const polygone& points, bool& erco) {
   const zof_section& section = *contour.m_p_section_mere;
-  const std::string racine(texte<27>(contour.m_nom_zone.utile()).utile());
-  texte<32> nom = concat({racine, "_EVID"});
-  for (int n = 2; section.pointer_zone(nom) != nullptr; ++n) nom = concat({racine, "_EV", std::to_string(n)});
+  texte<32> nom = loc_nom_suffixe(contour.m_nom_zone, "_EVID");
+  for (int n = 2; section.pointer_zone(nom) != nullptr; ++n)
+    nom = loc_nom_suffixe(contour.m_nom_zone, "_EV" + std::to_string(n));
   zof_zone& evidement = contour.creer_sous_zone(nature_zone::evidement, nom);
   evidement.ajouter_points(1, points, erco);
   if (!erco) evidement.traiter_zone(erco);

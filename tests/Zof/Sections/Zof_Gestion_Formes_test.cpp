@@ -78,6 +78,8 @@ TEST(Formes, RectangleEvide) {
   const std::string hauteur_1 = l1("Epaisseurs superieures à la hauteur"_l1);
   const std::string largeur = l1("Epaisseurs superieures à la largeur"_l1);
   verifier("REC_ HAUT 1. LARG 1. EP_E 0.5 EP_I 0.5 EP_L 0.5 FIN_", {hauteur_2, largeur});
+  verifier("REC_ HAUT 1. LARG 1. EP_E 0.5 EP_I 0.5 EP_L 0.5 L_GO 0.4 H_GO 0.1 FIN_",
+           {hauteur_2, largeur, hauteur_1, largeur});
   // The width of the haunches stands for their height.
   verifier(plein + "L_GO 0.4 H_GO 0.1 FIN_", {hauteur_1, largeur});
   verifier_acceptee(plein + "L_GO 0.3 H_GO 0.6 FIN_", 4);
@@ -158,6 +160,10 @@ TEST(Formes, INonSymetrique) {
            {joues_trop_larges, joues_trop_larges});
   verifier("I_NO H_TO 1. L_AM 0.1 " + tables + "LJ_S 0.1 LJ_I 0.1 FIN_",
            {joue_sans_hauteur, joue_sans_hauteur});
+  // All together, in their order.
+  verifier("I_NO H_TO 0.4 L_AM 0.9 " + tables + "HJ_S 0.1 LJ_S 0.1 LJ_I 0.1 FIN_",
+           {ame_trop_large, ame_trop_large, "Attribut hauteur table +joue >= hauteur totale",
+            joues_trop_larges, joue_sans_hauteur});
   verifier_acceptee("I_NO H_TO 1. L_AM 0.1 " + tables + "HJ_S 0.1 LJ_S 0.1 FIN_", 14);
 }
 
@@ -245,6 +251,22 @@ TEST(Formes, CaissonControles) {
   verifier(courant + "L_IN 5.1 FIN_", {"Attribut largeur intrados >l_totale-2*l_encorbellement"});
   verifier(courant + "L_IN 4.9 L_JO 0.2 H_JO 0.2 FIN_",
            {"Attribut largeur intrados >l_totale-2*l_encorbellement-2*l_joue"});
+  // All that can fail together, in their order.
+  verifier(base +
+               "H_EX 3. H_OR 2.5 L_EN 3.9 E_IN 1. E_EX 1.5 E_AM 0.4 H_GI 0.2 L_GI 0.3 H_GE 0.1 L_GE 0.3 "
+               "L_JO 0.5 H_JO 0.6 L_IN 9. FIN_",
+           {"Attribut hauteur extremite encorbellement > hauteur origine encorbellement",
+            "Attribut hauteur origine +epaisseur_intrados+hauteurs_goussets_inferieurs > hauteur totale",
+            "epaisseur_intrados + epaisseur_extrados+ h_goussets_intrados + h_goussets_extrados  < h_totale",
+            "l_encorbellement+epaisseur_ame+l_goussets_intrados >  largeur totale /2",
+            "l_encorbellement+epaisseur_ame+l_goussets_extrados >  largeur totale /2",
+            "Attribut hauteur origine + hauteur joue > hauteur totale",
+            "Attribut largeurs joue + encobellement> largeur totale/2",
+            "h_joue+h_origine_encorbellement+epaisseur_intrados+ h_goussets_intrados> hauteur totale",
+            "Attribut largeurs joue + encobellement + ame + goussets intrados> largeur totale/2",
+            "Attribut largeurs joue + encobellement + ame + goussets extrados> largeur totale/2",
+            "Attribut largeur intrados >l_totale-2*l_encorbellement",
+            "Attribut largeur intrados >l_totale-2*l_encorbellement-2*l_joue"});
   verifier_acceptee(courant + "FIN_", 8);
   verifier_acceptee(courant + "L_IN 5. FIN_", 8);
   verifier_acceptee(courant + "L_IN 4. CRET 0.1 DEVE 2.5 L_JO 0.2 H_JO 0.2 FIN_", 11);
@@ -303,4 +325,18 @@ TEST(Formes, NomDeLEvidementDUneFormeCreuse) {
   EXPECT_TRUE(zof_existe_zone_section("S1", "UN_NOM_DE_TRENTE_DEUX_LETTR_EV2"));
   EXPECT_TRUE(zof_existe_zone_section("S1", "UN_NOM_DE_TRENTE_DEUX_LETTR_EV3"));
   EXPECT_FALSE(est_renseigne_chaine(zof_get_pt_nom_zone_section("S1", "C1_EVID")->m_titre_zone));
+}
+
+// Beyond 99 voids of one name the number takes the place of a letter: every void still has a name of its own.
+TEST(Formes, CentEvidementsDeMemeRacine) {
+  const std::string racine = "UN_NOM_DE_TRENTE_DEUX_LETTRES";
+  std::string contours;
+  for (int i = 100; i < 205; ++i)
+    contours += "CONT " + racine + std::to_string(i) + " MATE BA TUBE DIAM 1. EPAI 0.1 FIN_ FIN_CONT\n";
+  modele m(section(contours));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_EQ(zof_get_nombre_type_zone_section("S1", nature_zone::evidement), 105);
+  EXPECT_TRUE(zof_existe_zone_section("S1", "UN_NOM_DE_TRENTE_DEUX_LETTR_EV99"));
+  EXPECT_TRUE(zof_existe_zone_section("S1", "UN_NOM_DE_TRENTE_DEUX_LETT_EV100"));
+  EXPECT_TRUE(zof_existe_zone_section("S1", "UN_NOM_DE_TRENTE_DEUX_LETT_EV105"));
 }

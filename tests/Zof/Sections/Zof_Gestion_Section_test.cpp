@@ -184,6 +184,28 @@ TEST(Points, ArcsEtCercles) {
                                                                                   {-0.01, -0.2}}));
 }
 
+// Up to 359 degrees an arc has two ends; beyond, they would meet.
+TEST(Points, UnArcSeFermeAuDelaDe359Degres) {
+  modele m(
+      barres("POIN ARC NUME 1 NOMB 3 Y_CE 0. Z_CE 0. DIAM 0.2D0 ORIG 0. EXTR 359. FIN_\n"
+             "ARC NUME 4 NOMB 2 Y_CE 0. Z_CE 0.15D0 DIAM 0.1D0 ORIG 0. EXTR 359.5D0 FIN_ FIN_POIN"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  const double demi_pas = 0.5 * std::numbers::pi / 180;
+  EXPECT_TRUE(egaux(zof_get_pt_nom_zone_section("S1", "F1")->positions_points(),
+                    {{0.1, 0},
+                     {-0.1 * std::cos(demi_pas), 0.1 * std::sin(demi_pas)},
+                     {0.1 * std::cos(2 * demi_pas), -0.1 * std::sin(2 * demi_pas)},
+                     {0.05, 0.15},
+                     {-0.05, 0.15}}));
+}
+
+// A line may run above the numbers of single points, up to the last number of all.
+TEST(Points, UneDroiteVaJusquAuDernierNumero) {
+  modele m(barres("POIN DROI NUME 99998 NOMB 2 Y_OR -0.1D0 Z_OR 0. Y_EX 0.1D0 Z_EX 0. FIN_ FIN_POIN"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_THAT(numeros_points(*zof_get_pt_nom_zone_section("S1", "F1")), ElementsAre(99998, 99999));
+}
+
 TEST(Points, UnPointPeutDonnerSonNumeroDansSonBloc) {
   modele m(
       barres("POIN POIN Y 0.1D0 NUME 40000 Z 0. FIN_POIN NUME 7 Z 0. Y 0. FIN_POIN FIN_POIN\n"
@@ -376,6 +398,40 @@ TEST(Zone, Charpente) {
   EXPECT_EQ(zof_get_nombre_type_zone_section("S1", nature_zone::charpente_externe), 1);
 }
 
+// The material of a frame may follow its profiles; one of a profile's own holds.
+TEST(Zone, UnProfilSansMateriauPrendCeluiDeSaCharpente) {
+  modele m(
+      section("CHAR H1 POIN NUME 1 Y 0. Z 0. FIN_ NUME 2 Y 0. Z 1. FIN_ NUME 3 Y 1. Z 1. FIN_ FIN_POIN\n"
+              "PROF NUME 1 ORIG 1 EXTR 2 EPAI 10. FIN_ NUME 2 ORIG 2 EXTR 3 EPAI 0. MATE GENE FIN_ FIN_PROF\n"
+              "MATE S355 FIN_CHAR"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  const auto& zone = *zof_get_pt_charpente_externe("S1");
+  const std::array<int, 2> attendus{zof_get_materiau_numero_qb7("S355"), zof_get_materiau_numero_qb7("GENE")};
+  for (int i = 1; i <= 2; ++i) {
+    const zof_profil p = zof_cp_profil(*zone.m_les_profils_charpente.case_element(i).m_ptr_element);
+    int materiau = 0;
+    ASSERT_EQ(qb7_lire_num_materiau(1, p.m_numero_zone_qb7, materiau), ier_2{});
+    EXPECT_EQ(materiau, attendus[static_cast<std::size_t>(i) - 1]);
+  }
+}
+
+// A frame cast in concrete takes the place of the concrete that it displaces.
+TEST(Zone, UneCharpenteDansUnContourCompteUneFois) {
+  modele m(section("CONT C1 MATE BA RECT HAUT 0.6D0 LARG 0.3D0 FIN_ CHAR H1 MATE S355 " +
+                   points({{0, -0.2}, {0, 0.2}}) +
+                   "PROF NUME 1 ORIG 1 EXTR 2 EPAI 10. FIN_ FIN_PROF FIN_CHAR FIN_CONT"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_EQ(zof_get_pt_charpente_externe("S1"), nullptr);
+  EXPECT_EQ(zof_get_nombre_type_zone_section("S1", nature_zone::charpente_interieure), 1);
+  zof_activer_section("S1");
+  for (const int etat_limite : {1001, 1002, 1003}) {
+    caracteristiques_mecaniques c;
+    ASSERT_EQ(qb7_caracteristiques_mecaniques(1, etat_limite, c), ier_2{});
+    EXPECT_NEAR(c.e_sx, 0.18, 1e-15);
+    EXPECT_NEAR(c.e_iy, 0.0054, 1e-15);
+  }
+}
+
 TEST(Zone, Refus) {
   const std::string prec = "CONT C1 MATE BP RECT HAUT 1. LARG 0.5 FIN_ PREC P1 ";
   const std::string point = "POIN NUME 1 Y 0. Z 0. FIN_ FIN_POIN ";
@@ -508,6 +564,26 @@ TEST(Symetrie, UnQuartDUnPointEstUnRectangle) {
   }
 }
 
+// A quarter of a cross, from axis to axis counter-clockwise, in each of the four quarters.
+TEST(Symetrie, UnQuartDeCroix) {
+  const std::vector<polygone> quarts{{{0.5, 0}, {0.5, 0.1}, {0.1, 0.1}, {0.1, 0.4}, {0, 0.4}},
+                                     {{0, 0.4}, {-0.1, 0.4}, {-0.1, 0.1}, {-0.5, 0.1}, {-0.5, 0}},
+                                     {{-0.5, 0}, {-0.5, -0.1}, {-0.1, -0.1}, {-0.1, -0.4}, {0, -0.4}},
+                                     {{0, -0.4}, {0.1, -0.4}, {0.1, -0.1}, {0.5, -0.1}, {0.5, 0}}};
+  for (const polygone& quart : quarts) {
+    modele m(contour("PART " + points(quart), "SYME YZ"));
+    ASSERT_TRUE(m.lire()) << m.console();
+    EXPECT_EQ(points_de("C1").size(), 16U);
+    EXPECT_NEAR(zof_get_pt_nom_zone_section("S1", "C1")->aire_zone(), 1.0 * 0.2 + 2 * 0.2 * 0.3, 1e-15);
+    caracteristiques_mecaniques c;
+    zof_activer_section("S1");
+    ASSERT_EQ(qb7_caracteristiques_mecaniques(1, 1001, c), ier_2{});
+    // Horizontal bar 1 x 0.2, vertical bar 0.2 x 0.8, less the square that they share.
+    EXPECT_NEAR(c.e_iy, (std::pow(0.2, 3) + 0.2 * std::pow(0.8, 3) - std::pow(0.2, 4)) / 12, 1e-15);
+    EXPECT_NEAR(c.e_iz, (0.2 + 0.8 * std::pow(0.2, 3) - std::pow(0.2, 4)) / 12, 1e-15);
+  }
+}
+
 TEST(Symetrie, UnPointSurLAxeNAPasDImage) {
   const std::string corps = "POIN NUME 1 Y 0. Z 0.001D0 FIN_ NUME 2 Y 0.1D0 Z 0.2D0 FIN_ FIN_POIN";
   modele m(section("CONT C1 MATE BA RECT HAUT 0.5 LARG 0.3 FIN_ FERR F1 MATE HA DIAM 20. PART " + corps +
@@ -551,19 +627,24 @@ TEST(Symetrie, ProfilsDUneCharpente) {
 }
 
 TEST(Symetrie, Refus) {
-  verifier_refus({{contour("PART"),
-                   l1(" l option PARTIELLE ne doit etre définie que si l option SYMETRIE est activee"_l1)},
-                  {contour("RECT HAUT 1. LARG 1. FIN_ FERR F1 MATE HA DIAM 8. POIN NUME 1 Y 0. Z 0. FIN_ "
-                           "FIN_POIN FIN_FERR PART",
-                           "SYME Y"),
-                   "Il est interdit de redefinir une forme typee"},
-                  {contour("EVID E1 RECT HAUT 1. LARG 1. FIN_ FIN_ PART", "SYME Z"),
-                   " l option PARTIELLE doit preceder les sous zones"},
-                  {contour("PART " + points({{0, 1}}), "SYME Y"),
-                   "  Symetrie : Y ou Z : Un contour partiel doit comporter au moins deux points"},
-                  {contour("RECT HAUT 2. LARG 2. FIN_ EVID E1 PART " + points({{0, 0.5}}) + "FIN_", "SYME Z"),
-                   "  Symetrie : Y ou Z : Un evidement partiel doit comporter au moins deux points"},
-                  {contour("SYME"), " Mot clef  SYME incorrect dans ce contexte"}});
+  verifier_refus(
+      {{contour("PART"),
+        l1(" l option PARTIELLE ne doit etre définie que si l option SYMETRIE est activee"_l1)},
+       {contour("RECT HAUT 1. LARG 1. FIN_ FERR F1 MATE HA DIAM 8. POIN NUME 1 Y 0. Z 0. FIN_ "
+                "FIN_POIN FIN_FERR PART",
+                "SYME Y"),
+        "Il est interdit de redefinir une forme typee"},
+       {contour("EVID E1 RECT HAUT 1. LARG 1. FIN_ FIN_ PART", "SYME Z"),
+        " l option PARTIELLE doit preceder les sous zones"},
+       {contour("PART " + points({{0, 1}}), "SYME Y"),
+        "  Symetrie : Y ou Z : Un contour partiel doit comporter au moins deux points"},
+       {contour("RECT HAUT 2. LARG 2. FIN_ EVID E1 PART " + points({{0, 0.5}}) + "FIN_", "SYME Z"),
+        "  Symetrie : Y ou Z : Un evidement partiel doit comporter au moins deux points"},
+       {contour("EVID E1 POIN " + std::string("NUME 1 Y 0. Z 0. FIN_ NUME 2 Y 1. Z 0. FIN_ NUME 3 Y 0. "
+                                              "Z 1. FIN_ FIN_POIN FIN_ PART")),
+        l1(" l option PARTIELLE ne doit etre définie que si l option SYMETRIE est activee\n"
+           "     -  l option PARTIELLE doit preceder les sous zones"_l1)},
+       {contour("SYME"), " Mot clef  SYME incorrect dans ce contexte"}});
   EXPECT_EQ(messages(contour("PART PART", "SYME Y")), "       - Repetition interdite du mot clef:PART\n");
 }
 
@@ -579,6 +660,9 @@ TEST(Interieur, UnContourQuiToucheSonContourPasse) {
 TEST(Interieur, Refus) {
   verifier_refus(
       {{barres("POIN NUME 12 Y 0.2 Z 0. FIN_ FIN_POIN"), " Point    12 de la zone F1 exterieur a la zone C1"},
+       {barres("POIN DROI NUME 1 NOMB 3 Y_OR 0. Z_OR 0. Y_EX 0.8 Z_EX 0. FIN_ FIN_POIN"),
+        " Point     2 de la zone F1 exterieur a la zone C1\n"
+        "     -  Point     3 de la zone F1 exterieur a la zone C1"},
        // In the notch of an L, level with one of its corners.
        {contour(points(corniere) +
                 "FERR F1 MATE HA DIAM 8. POIN NUME 1 Y 0.4D0 Z 0.2D0 FIN_ NUME 2 Y 0.4D0 Z 0.8D0 FIN_ "
