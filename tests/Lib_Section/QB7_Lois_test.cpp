@@ -281,6 +281,21 @@ TEST_F(ConstructeursDeLois, LaLimiteDUneParaboleDegreNEstTrouveeADixPuissanceMoi
   EXPECT_EQ(loi_du_moteur(mat, el + 3).epsilon_max, 0.003);
 }
 
+// The cubic pieces leave the curve of EN 1992-1-1 (3.17) by 0.54 % of f_cd at most.
+TEST_F(ConstructeursDeLois, LaSplineSuitLaCourbeDeLExposant) {
+  int etat = el;
+  for (const double n : {1.399999976158142, 1.5, 1.6, 1.75, 1.8, 1.9, 2.0}) {
+    reussit(qb7_loi_parabole_degre_n_avec_bornes(mat, ++etat, n, 50, 0.0025, 0.003, false, 0));
+    double pire = 0;
+    for (int i = 0; i <= 1000; ++i) {
+      const double x = i / 1000.0;
+      const double courbe = 50 * (1 - std::pow(1 - x, n));
+      pire = std::max(pire, std::abs(rdm_contrainte_materiau(loi_du_moteur(mat, etat), 0.0025 * x) - courbe));
+    }
+    EXPECT_LE(pire, 0.0054 * 50) << n;
+  }
+}
+
 TEST_F(ConstructeursDeLois, LesBetonsSePrennentPourInfinisDesDeuxCotes) {
   reussit(qb7_loi_beton_bilin(mat, el, 20, 0.00175, 0.0035));
   EXPECT_EQ(sigma(-1e9), 0);
