@@ -207,7 +207,9 @@ void zof_zone::symetriser(int axe) {
     coordonnee = -coordonnee;
     image.m_numero_point_sym_cible = image.m_numero_point;
     image.m_ix_point_sym_cible = position;
-    inc_numero_courant_point_zone_type(image.m_numero_point);
+    // A line of the zone may have taken numbers above those of single points.
+    do inc_numero_courant_point_zone_type(image.m_numero_point);
+    while (position_point(image.m_numero_point) != 0);
     m_les_points_zone.ajouter(image);
     position_image = m_les_points_zone.nombre();
     positions_points_.emplace(image.m_numero_point, position_image);

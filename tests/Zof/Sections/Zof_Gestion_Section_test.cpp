@@ -584,6 +584,16 @@ TEST(Symetrie, UnQuartDeCroix) {
   }
 }
 
+TEST(Symetrie, UneImageNePrendPasLeNumeroDUnPointDeSaZone) {
+  modele m(
+      section("CONT C1 MATE BA RECT HAUT 0.5 LARG 0.5 FIN_ FERR F1 MATE HA DIAM 20. PART POIN DROI NUME "
+              "40002 NOMB 2 Y_OR 0.1D0 Z_OR 0.2D0 Y_EX 0.2D0 Z_EX 0.2D0 FIN_ FIN_POIN FIN_FERR FIN_CONT",
+              "SYME Z"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_THAT(numeros_points(*zof_get_pt_nom_zone_section("S1", "F1")),
+              ElementsAre(40002, 40003, 40001, 40004));
+}
+
 TEST(Symetrie, UnPointSurLAxeNAPasDImage) {
   const std::string corps = "POIN NUME 1 Y 0. Z 0.001D0 FIN_ NUME 2 Y 0.1D0 Z 0.2D0 FIN_ FIN_POIN";
   modele m(section("CONT C1 MATE BA RECT HAUT 0.5 LARG 0.3 FIN_ FERR F1 MATE HA DIAM 20. PART " + corps +
