@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <fstream>
+#include <iomanip>
 #include <ostream>
 #include <sstream>
 
@@ -219,6 +220,38 @@ TEST(Justification, DesEffortsDemesuresNeSontPasEnEquilibre) {
   EXPECT_THAT(c.console, HasSubstr("==> Non Equilibre sous :n\n==> Non Equilibre sous :my\n"));
 }
 
+// Each record has its heading, each case its own, side by side; the tables of a case stand under it.
+TEST(Justification, UnTitreParEtatLimiteEtParCas) {
+  const course c = executer(prisme + R"(
+SOLL T SECT PRISME TITR 't' REPE GEOM
+  ETAT ELS CARA SITU SERV A_PO EFFO G N 1. TITR 'g' FIN_EFFO EFFO Q N 0.1 TITR 'q' FIN_EFFO FIN_ETAT
+  ETAT ELU DURA SITU CONS POND EFFO GQ N 1. TITR 'u' FIN_EFFO FIN_ETAT
+FIN_SOLL
+JUST PRISME SOLL T FIN_JUST
+FIN_
+)");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console,
+              HasSubstr("  \n Etat limite : ELS_CAR - situation: EXPLOITATION_SERVICE\n"
+                        "==> Equilibre sous :g_max + q_max - ELS_CAR-EXPLOITATION_SERVICE\n"
+                        "==> Equilibre sous :g_max + q_min - ELS_CAR-EXPLOITATION_SERVICE\n"
+                        "==> Equilibre sous :g_min + q_max - ELS_CAR-EXPLOITATION_SERVICE\n"
+                        "==> Equilibre sous :g_min + q_min - ELS_CAR-EXPLOITATION_SERVICE\n"
+                        "  \n Etat limite : ELU_DURABLE - situation: CONSTRUCTION\n==> Equilibre sous :u\n"));
+  std::size_t ici = 0;
+  for (const std::string& titre :
+       {l1("1.1. Justification de la section : PRISME sous T\n"),
+        l1("1.1.1.  Etat limite : ELS_CAR - situation: EXPLOITATION_SERVICE\n"),
+        l1("1.1.2. Efforts : g_max + q_max - ELS_CAR-EXPLOITATION_SERVICE\n"),
+        l1("1.1.2.1. Déformations et contraintes dans :FUT\n"_l1),
+        l1("1.1.3. Efforts : g_max + q_min - ELS_CAR-EXPLOITATION_SERVICE\n"),
+        l1("1.1.5. Efforts : g_min + q_min - ELS_CAR-EXPLOITATION_SERVICE\n"),
+        l1("1.1.6.  Etat limite : ELU_DURABLE - situation: CONSTRUCTION\n"), l1("1.1.7. Efforts : u\n")}) {
+    ici = c.txt.find(titre, ici);
+    ASSERT_NE(ici, std::string::npos) << titre;
+  }
+}
+
 // Options act on the SOLL that follow them: the first has the defaults, the second is unbounded, the third
 // again not.
 TEST(Justification, LesOptionsValentPourCeQuiSuit) {
@@ -325,6 +358,30 @@ TEST(PivotC, UneDeformationQuiNEnEstPasUneNEstPasJustifiee) {
       "JUST POTEAU PIVO JUST SOLL T FIN_JUST\nFIN_\n");
   EXPECT_EQ(c.statut, 0) << c.listing;
   EXPECT_THAT(c.console, HasSubstr("==> Non Equilibre sous :e\n==> Pivot C -FUT : Non justifie\n"));
+}
+
+// The strain at the centroid does not depend on the frame of the forces.
+TEST(PivotC, AuCentreDeGraviteQuelQueSoitLeRepere) {
+  const efforts vus = zof_efforts_nouveau_repere(zof_repere_degres(0.05, -0.1, 30), {4.22, 0, 0});
+  std::ostringstream effort;
+  effort << std::fixed << std::setprecision(12) << "EFFO GQ N " << vus.n << "D0 MY " << vus.my << "D0 MZ "
+         << vus.mz << "D0 TITR 'fort' FIN_EFFO";
+  const course c = executer(poteau + soll_poteau("Y 0.05D0 Z -0.1D0 ANGL 30.", "ELU DURA", effort.str()) +
+                            "JUST POTEAU PIVO JUST SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console, HasSubstr("==> Equilibre sous :fort\n==> Pivot C -FUT : Non justifie\n"));
+  EXPECT_NEAR(nombre_apres(c.txt, "Valeur deformation au cdg :"), 2.0292e-3, 4e-7);
+}
+
+// Every contour of concrete has its check, in the order of the section; bars have none.
+TEST(PivotC, ChaqueContourALeSien) {
+  const course c = executer(donnees::beton_arme +
+                            "SOLL T SECT POUTRE TITR 't' REPE BRUT ETAT ELU DURA SITU SERV POND "
+                            "EFFO GQ N 1. FIN_EFFO FIN_ETAT FIN_SOLL\n"
+                            "JUST POUTRE PIVO JUST SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console, HasSubstr("==> Pivot C - AME : justifie\n==> Pivot C - TABLE : justifie\n"));
+  EXPECT_THAT(c.console, Not(HasSubstr("INF : justifie")));
 }
 
 // ---- Frames

@@ -172,6 +172,42 @@ FIN_SOLL)");
   EXPECT_EQ(zof_get_nb_efforts_etat_limite_sollicitations_gq("POUTRE", "T", 2), 2 * 1 * 2 * 2);
 }
 
+// All records of that limit state and situation are searched, weighted ones too: what they give is weighted
+// here like the rest (1.4175 and 0.95), whatever it stood for there.
+TEST_F(Stockage, MemeChercheDansTousLesEnregistrements) {
+  lire(donnees::beton_arme, R"(
+SOLL T SECT POUTRE TITR 't' REPE GEOM
+  ETAT ELS CARA SITU SERV POND EFFO G N 100 TITR 'g1' FIN_EFFO FIN_ETAT
+  ETAT ELS CARA SITU CONS A_PO EFFO G N 300 TITR 'autre' FIN_EFFO FIN_ETAT
+  ETAT ELS CARA SITU SERV A_PO EFFO Q N 5 FIN_EFFO EFFO G N 200 TITR 'g2' FIN_EFFO FIN_ETAT
+  ETAT ELU DURA SITU SERV A_PO MEME G QUE ELS CARA EN EXPL SERV FIN_ FIN_ETAT
+FIN_SOLL)");
+  const auto g = zof_get_efforts_etat_limite_sollicitations_ponderes("POUTRE", "T", 4, "G");
+  ASSERT_EQ(g.size(), 4U);
+  EXPECT_EQ(g[0].m_n, simple(1.4175f) * 100);
+  EXPECT_EQ(g[1].m_n, simple(0.95f) * 100);
+  EXPECT_EQ(g[2].m_n, simple(1.4175f) * 200);
+  EXPECT_EQ(g[3].m_titre.utile(), "g2_min - ELU_DURABLE-EXPLOITATION_SERVICE");
+}
+
+// The raw frame is that of the gross section in its own axes, whatever frame and activity a justification has
+// left: centroid of the flanged beam at z = 0.16.
+TEST_F(Stockage, LeRepereBrutNeDependPasDesJustificationsFaites) {
+  lire(donnees::beton_arme, R"(
+SOLL U SECT POUTRE TITR 'u' REPE Y 0.3D0 Z -0.2D0 ANGL 40.
+  ETAT ELU DURA SITU SERV POND EFFO G N 1 FIN_EFFO FIN_ETAT
+FIN_SOLL
+JUST POUTRE SOLL U FIN_JUST
+SOLL T SECT POUTRE TITR 't' REPE BRUT
+  ETAT ELU DURA SITU SERV POND EFFO G N 2 MY 0.1D0 REPE TABLE FIN_EFFO FIN_ETAT
+FIN_SOLL)");
+  const repere r = zof_get_repere_chargement_sollicitations("POUTRE", "T");
+  EXPECT_NEAR(r.y_rep, 0, 1e-12);
+  EXPECT_NEAR(r.z_rep, 0.16, 1e-12);
+  // The table has its centroid at z = 0.4: My = 0.1 + 2 (0.4 - 0.16).
+  EXPECT_NEAR(zof_get_efforts_etat_limite_sollicitations("POUTRE", "T", 1, "G").at(0).m_my, 0.58, 1e-12);
+}
+
 // A record may take up its own efforts: they stand twice, and the search ends.
 TEST_F(Stockage, MemeSurSonPropreEtatLimiteDoubleLesEfforts) {
   lire(donnees::beton_arme, soll(R"(
@@ -448,6 +484,11 @@ INSTANTIATE_TEST_SUITE_P(
         ba("ZoneAbandonnee", phasee + "A_PO " + tout + g + ame,
            "TABLE non activee dans la phase CONTINUE courante alors qu elle est active dans une phase "
            "precedente"),
+        // joined to one of two phases that stand apart, and not to the other
+        ba("ZoneDUnePhaseSeparee",
+           phasee + "A_PO " + ame + g + "PHAS 'p' ZONE TABLE FIN_ZONE " + g + "PHAS 'p' ZONE TABLE FIN_ZONE",
+           "AME non activee dans la phase CONTINUE courante alors qu elle est active dans une phase "
+           "precedente"),
         ba("PhaseSansEffort", phasee + "A_PO " + ame + tout, "Aucun effort defini dans phase"),
         ba("PhaseSansGNiP", phasee + "A_PO " + ame + q + tout, "Aucun Effort de type G ou P defini"),
         ba("PhaseGq", phasee + "POND " + ame + gq + tout, "Section BA : GQ interdit en mode phasage"),
@@ -472,6 +513,7 @@ INSTANTIATE_TEST_SUITE_P(
     Cloture, Refus,
     ::testing::Values(
         ba("AucunEffort", etat + fin, "Aucun effort defini"),
+        ba("DernierePhaseSansEffort", phasee + "A_PO " + ame + g + tout + fin, "Aucun effort defini"),
         ba("SansGNiP", etat + q + fin, "Aucun Effort de type G ou P d" + accent + "fini"),
         ba("GqPhase", phasee + "POND " + ame + gq + fin, "Section BA : GQ interdit en mode phasage"),
         bp("PostGq", post + "POND " + gq + fin, "Effort de type GQ interdit en post-tension"),
@@ -507,6 +549,7 @@ INSTANTIATE_TEST_SUITE_P(
                       ba("TitreRepete", etat + "EFFO G TITR 'a' TITR", "Repetition de titre"),
                       ba("RepereRepete", etat + "EFFO G REPE AME REPE", "Repetition de repere"),
                       ba("RepereBrutRepete", etat + "EFFO G REPE AME R_BR", "Repetition de repere"),
+                      ba("RepereApresBrut", etat + "EFFO G R_BR REPE", "Repetition de repere"),
                       ba("ZoneDuRepere", etat + "EFFO G REPE INF",
                          trente_deux("INF") + " n existe pas ou n est pas un contour ou un profil"),
                       ba("TensionsSansP", etat + "EFFO G TENS",

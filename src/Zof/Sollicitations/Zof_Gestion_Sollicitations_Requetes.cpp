@@ -62,7 +62,10 @@ class selection {
             int no_phase)
       : sollicitations_(zof_get_pt_sollicitations(nom_section, nom_sollicitations)),
         enregistrement_(loc_enregistrement(nom_section, nom_sollicitations, no_etat_limite)),
-        no_phase_(no_phase) {}
+        no_phase_(no_phase) {
+    zof_assert(no_phase >= 1 && no_phase <= enregistrement_.m_les_phases.nombre(),
+               "Zof_Get_efforts_etat_limite_sollicitations : Cas impossible 2");
+  }
 
   action de_label(vue_l1 label) const {
     action a;

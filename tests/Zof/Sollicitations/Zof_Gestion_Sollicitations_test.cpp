@@ -228,6 +228,47 @@ TEST_F(Combinaisons, PSeulEtGSeulGardentLeurNom) {
   EXPECT_EQ(zof_get_nb_efforts_etat_limite_sollicitations_gp(section, nom, 1, 2), 1);
 }
 
+// Service: P alone with 1.1 and 0.9, its tensions too; G alone with 1.05 and 0.95, each once.
+TEST_F(Combinaisons, UneActionSeuleASesDeuxFacteurs) {
+  e.m_label_etat_limite = "ELS_FRE_NF";
+  zof_effort p = effort("P", "cables", {2, -0.5, 4});
+  zof_tension tension;
+  tension.m_tension = 1000;
+  tension.m_rho = 1;
+  p.m_les_tensions.ajouter(tension);
+  e.m_les_efforts.ajouter(p);
+  e.m_les_phases.ajouter(zof_phase());
+  ajouter("G", "poids", {1, 0.4, -0.2}, 2);
+  deposer();
+  const auto cas_p = gp();
+  ASSERT_EQ(cas_p.size(), 2U);
+  EXPECT_EQ(zof_get_nb_efforts_etat_limite_sollicitations_gp(section, nom, 1), 2);
+  EXPECT_EQ(cas_p[0].get_efforts(), simple(1.1f) * (efforts{2, -0.5, 4}));
+  EXPECT_EQ(cas_p[1].get_efforts(), simple(0.9f) * (efforts{2, -0.5, 4}));
+  EXPECT_EQ(zof_get_tensions_effort_p(cas_p[1]), std::vector{1000 * simple(0.9f)});
+  EXPECT_EQ(zof_get_rhos_effort_p(cas_p[1]), std::vector{1.0});
+  EXPECT_EQ(utile(cas_p[1].m_label_effort), "P");
+  EXPECT_EQ(titre(cas_p[1]), "cables_min - ELS_FRE_NF-EXPLOITATION_SERVICE");
+  const auto cas_g = zof_get_efforts_etat_limite_sollicitations_gp(section, nom, 1, 2);
+  ASSERT_EQ(cas_g.size(), 2U);
+  EXPECT_EQ(zof_get_nb_efforts_etat_limite_sollicitations_gp(section, nom, 1, 2), 2);
+  EXPECT_EQ(cas_g[0].get_efforts(), simple(1.05f) * (efforts{1, 0.4, -0.2}));
+  EXPECT_EQ(cas_g[1].get_efforts(), simple(0.95f) * (efforts{1, 0.4, -0.2}));
+  EXPECT_EQ(utile(cas_g[0].m_label_effort), "G");
+  EXPECT_EQ(titre(cas_g[0]), "poids_max - ELS_FRE_NF-EXPLOITATION_SERVICE");
+}
+
+TEST_F(Combinaisons, SansGNiPNiGPLaListeEstUnCasImpossible) {
+  ajouter("Q", "q", {1, 0, 0});
+  deposer();
+  EXPECT_EQ(zof_get_nb_efforts_etat_limite_sollicitations_gp(section, nom, 1), 0);
+  systeme_memoire machine;
+  const systeme_en_place en_place(machine);
+  EXPECT_EQ(statut_d_arret([] { (void)gp(); }), 1);
+  EXPECT_NE(machine.texte_console.find(" Zof_Get_efforts_etat_limite_sollicitations_GP : cas impossible 1"),
+            std::string::npos);
+}
+
 TEST_F(Combinaisons, GPNeSeMelePasAGOuP) {
   ajouter("GP", "gp", {3, 0, 0});
   ajouter("G", "g", {1, 0, 0});
@@ -269,6 +310,17 @@ TEST_F(Combinaisons, LesCasPonderesDUneActionSuiventLOrdreDuFichier) {
   EXPECT_EQ(utile(cas[0].m_label_effort), "Q");
 }
 
+TEST_F(Combinaisons, UnFacteurUniqueNAPasDeSuffixe) {
+  e.m_etat_limite_pondere = true;
+  ajouter("Q", "q1", {1, 2, 3});
+  deposer();
+  const auto cas = zof_get_efforts_etat_limite_sollicitations_ponderes(section, nom, 1, "Q");
+  ASSERT_EQ(cas.size(), 1U);
+  EXPECT_EQ(zof_get_nb_efforts_etat_limite_sollicitations_ponderes(section, nom, 1, "Q"), 1);
+  EXPECT_EQ(titre(cas[0]), "q1 - ELU_DURABLE-EXPLOITATION_SERVICE");
+  EXPECT_EQ(cas[0].get_efforts(), (efforts{1, 2, 3}));
+}
+
 TEST_F(Combinaisons, UnTitreTropLongEstCoupe) {
   ajouter("G", std::string(160, 'x'), {1, 0, 0});
   deposer();
@@ -278,6 +330,7 @@ TEST_F(Combinaisons, UnTitreTropLongEstCoupe) {
 TEST_F(Combinaisons, LaSelectionRegardeLaPhase) {
   ajouter("G", "g1", {1, 0, 0}, 1);
   ajouter("G", "g2", {2, 0, 0}, 2);
+  e.m_les_phases.ajouter(zof_phase());
   deposer();
   const auto phase2 = zof_get_efforts_etat_limite_sollicitations(section, nom, 1, "G", 2);
   ASSERT_EQ(phase2.size(), 1U);
@@ -334,9 +387,15 @@ TEST_F(Combinaisons, DeuxSollicitationsDeMemeClefRestentDistincts) {
 }
 
 TEST_F(Combinaisons, UnRangInconnuEstUnCasImpossible) {
+  ajouter("G", "g", {1, 0, 0});
   deposer();
   systeme_memoire machine;
   const systeme_en_place en_place(machine);
+  for (const int phase : {0, 2})
+    EXPECT_EQ(statut_d_arret([phase] {
+                (void)zof_get_nb_efforts_etat_limite_sollicitations(section, nom, 1, "G", phase);
+              }),
+              1);
   EXPECT_EQ(statut_d_arret([] { (void)zof_get_situation_sollicitations(section, nom, 2); }), 1);
   EXPECT_EQ(statut_d_arret([] { (void)zof_get_titre_phase_sollicitation(section, nom, 1, 2); }), 1);
   EXPECT_EQ(statut_d_arret([] { (void)zof_est_precontrainte_iso_incluse(section, "AUTRE"); }), 1);
