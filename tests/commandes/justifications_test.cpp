@@ -351,6 +351,15 @@ TEST(PivotC, NAjouteRienEnService) {
   EXPECT_THAT(c.console, Not(HasSubstr("Pivot C")));
 }
 
+TEST(PivotC, EnSituationAccidentelleAussi) {
+  const course c = executer(poteau +
+                            "SOLL T SECT POTEAU TITR 't' REPE GEOM ETAT ELU ACCI SITU ACCI POND "
+                            "EFFO GQ N 1. FIN_EFFO FIN_ETAT FIN_SOLL\n"
+                            "JUST POTEAU PIVO JUST SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console, HasSubstr("==> Pivot C - FUT : justifie\n"));
+}
+
 // A frame beyond all measure gives strains that are no numbers: the pivot is not declared sound.
 TEST(PivotC, UneDeformationQuiNEnEstPasUneNEstPasJustifiee) {
   const course c = executer(
@@ -450,6 +459,22 @@ TEST(Reperes, LeRepereBrutEstAuCentreDeGravite) {
                             "EFFO GQ N 1. FIN_EFFO FIN_ETAT FIN_SOLL\nJUST POUTRE SOLL T FIN_JUST\nFIN_\n");
   EXPECT_EQ(c.statut, 0) << c.listing;
   EXPECT_THAT(c.txt, HasSubstr("- z : 0.16000 "));
+}
+
+// Whether the loading is in the raw frame is known to what draws its diagrams; the next loading changes it.
+TEST(Reperes, LaCommandeSaitSiLaSollicitationEstEnRepereBrut) {
+  const std::string lues = poteau.substr(donnees::premiere_commande) +
+                           "SOLL B SECT POTEAU TITR 'b' REPE BRUT ETAT ELS CARA SITU SERV POND EFFO GQ N 1. "
+                           "FIN_EFFO FIN_ETAT FIN_SOLL\n" +
+                           soll_poteau("GEOM", "ELS CARA", "EFFO GQ N 1. FIN_EFFO");
+  {
+    const modele brut(lues + "JUST POTEAU SOLL T SOLL B FIN_JUST\nFIN_\n");
+    EXPECT_FALSE(brut.erco()) << brut.console();
+    EXPECT_TRUE(gestion_justifications.mod_glo_sollicitation_en_repere_brut);
+  }
+  const modele geometrique(lues + "JUST POTEAU SOLL B SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_FALSE(geometrique.erco()) << geometrique.console();
+  EXPECT_FALSE(gestion_justifications.mod_glo_sollicitation_en_repere_brut);
 }
 
 // ---- Zones

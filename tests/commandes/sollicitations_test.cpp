@@ -539,6 +539,9 @@ INSTANTIATE_TEST_SUITE_P(
                          "Effort P incorrect pour une section non precontrainte : " + trente_deux("P")),
                       ba("GpSansPrecontrainte", pondere + "EFFO GP",
                          "Effort P incorrect pour une section non precontrainte : " + trente_deux("GP")),
+                      // broken twice, by the section and by the limit state
+                      ba("GpNonPondereSansPrecontrainte", etat + "EFFO GP",
+                         "Effort P incorrect pour une section non precontrainte : " + trente_deux("GP")),
                       ba("GqNonPondere", etat + "EFFO GQ",
                          "Type d effort incorrect pour Etat limite non pondere : " + trente_deux("GQ")),
                       bp("GpNonPondere", post + "A_PO EFFO GP",
@@ -600,6 +603,8 @@ INSTANTIATE_TEST_SUITE_P(
            "Effort P incorrect pour une section non precontrainte : " + trente_deux("P")),
         ba("GqNonPondere", etat + "MEME GQ",
            "Type d effort incorrect pour Etat limite non pondere : " + trente_deux("GQ")),
+        ba("PSansPrecontraintePondere", pondere + "MEME GP",
+           "Effort P incorrect pour une section non precontrainte : " + trente_deux("GP")),
         ba("EtatPondere", pondere + "MEME G", "Option Meme_effort interdite pour un Etat limite pondere "),
         ba("MotQue", etat + "MEME G COMME", incorrect("COMM")),
         ba("MotEn", etat + "MEME G QUE ELU DURA DANS", incorrect("DANS")),

@@ -25,6 +25,7 @@
 #include "UTL_02_Ecriture_Resu.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
+#include "Zof_Gestion_Sollicitations.hpp"
 
 using namespace socle;
 using ::testing::HasSubstr;
@@ -103,6 +104,7 @@ class Tableaux : public ::testing::Test {
   }
   void vider() {
     utl_02_reinitialiser();
+    gestion_sollicitations_reinitialiser();
     gestion_section_reinitialiser();
     gestion_materiau_reinitialiser();
     qb7_quitter();
@@ -197,8 +199,11 @@ TEST_F(Tableaux, LOrdonneeDeLAxeNeutreQuandIlEstParalleleAY) {
   lire("CONT FUT " + rectangle + "FIN_CONT");
   // 2e-4 + 2e-3 z = 0
   EXPECT_THAT(tableaux({2e-4, 2e-3, 0}), HasSubstr("  - " + ordonnee + "-0.10000E+00\n"));
-  EXPECT_THAT(tableaux({2e-4, 0, 0}), Not(HasSubstr(ordonnee)));
-  EXPECT_THAT(tableaux({2e-4, 2e-3, 1e-6}), Not(HasSubstr(ordonnee)));
+  // A slope along y under 1e-10 is none; one along z must be above 1e-8.
+  EXPECT_THAT(tableaux({2e-4, 2e-3, 5e-11}), HasSubstr(ordonnee));
+  EXPECT_THAT(tableaux({2e-4, 2e-3, 2e-10}), Not(HasSubstr(ordonnee)));
+  EXPECT_THAT(tableaux({2e-4, -2e-8, 0}), HasSubstr(ordonnee));
+  EXPECT_THAT(tableaux({2e-4, -5e-9, 0}), Not(HasSubstr(ordonnee)));
 }
 
 // The axis is told in the axes of the section: in a frame that is shifted and turned its equation still gives
@@ -359,6 +364,24 @@ TEST_F(Tableaux, LesDonneesDUnCas) {
                               "  - Repere       :  y : 0.0000 - z : 0.0000 - angle : 90.001\n"
                               "  - Nx: 0.60000"));
   EXPECT_THAT(note, HasSubstr(plan_zone + "\n  - Ex: 0.13333E-03\n"));
+}
+
+// These materials have no situation at all.
+TEST_F(Tableaux, UnMateriauSansLEtatLimiteArreteLeCalcul) {
+  lire("CONT FUT " + rectangle + "FIN_CONT");
+  zof_efforts_etat_limite etat;
+  etat.m_label_etat_limite = "ELS_CAR";
+  etat.m_label_situation = "EXPLOITATION_SERVICE";
+  etat.m_les_phases.ajouter(zof_phase());
+  zof_sollicitations s;
+  s.m_nom_section = "S1";
+  s.m_nom_section_sollicitations = "S1_T";
+  s.m_type_repere = type_repere_geometrique;
+  s.m_les_efforts_etat_limite.ajouter(etat);
+  gestion_sollicitations.zof_mod_les_sollicitations.ajouter(s);
+  EXPECT_EQ(statut_d_arret([] { zof_justifier_sollicitations_ba("S1", "T", true, false); }), 1);
+  EXPECT_THAT(console(), HasSubstr("Justification impossible - EXPLOITATION_SERVICE-ELS_CAR: Non defini pour "
+                                   "un des materiaux\n"));
 }
 
 TEST_F(Tableaux, UnTitreDeCasEstCoupeA300) {

@@ -4,10 +4,14 @@
 
 #include <array>
 
+#include "Lecteur.hpp"
 #include "Outils.hpp"
+#include "QB7_Sections.hpp"
 #include "Simple.hpp"
 #include "Zof_Classe_Nom.hpp"
 #include "Zof_Classe_Tension.hpp"
+#include "Zof_Gestion_Materiau.hpp"
+#include "Zof_Gestion_Section.hpp"
 #include "Zof_Utilit.hpp"
 
 using namespace socle;
@@ -416,6 +420,40 @@ TEST_F(Combinaisons, LesCopiesOntLeursListes) {
   EXPECT_EQ(effort_copie->m_n, 1);
   // The effort of the copy belongs to the phase of the copy.
   EXPECT_EQ(effort_copie->m_pt_phase_courante, &*uef_pointage<zof_phase>(copie_etat.m_les_phases, 1));
+}
+
+// A material without any situation: none can be asked of its section.
+struct materiau_nu : uef_element<materiau_nu, zof_materiau> {
+  void editer_materiau(bool&) const override {}
+  void decoder_materiau(bool&) override {}
+};
+
+TEST(Lecture, UneSituationQueLesMateriauxNOntPas) {
+  gestion_sollicitations_reinitialiser();
+  gestion_section_reinitialiser();
+  gestion_materiau_reinitialiser();
+  qb7_quitter();
+  materiau_nu m;
+  m.set_nom_materiau("BETON");
+  m.set_type_materiau(type_materiau_beton);
+  m.set_numero_materiau_qb7(1);
+  gestion_materiau.zof_mod_les_materiaux.creer("materiaux", m, 10, true);
+  gestion_materiau.zof_mod_les_materiaux.ajouter(m);
+  lecteur lu(
+      "S1 TITR 's' CONT FUT MATE BETON RECT HAUT 1. LARG 1. FIN_RECT FIN_CONT FIN_SECT\n"
+      "T SECT S1 TITR 't' REPE GEOM ETAT ELS CARA SITU EXPL SERV A_PO EFFO G N 1. FIN_EFFO\n");
+  bool erco = false;
+  zof_decoder_creer_section(erco);
+  ASSERT_FALSE(erco) << lu.console();
+  zof_decoder_sollicitations(erco);
+  EXPECT_TRUE(erco);
+  EXPECT_NE(
+      lu.console().find("     - Situation non definie : EXPLOITATION_SERVICE" + std::string(12, ' ') + "\n"),
+      std::string::npos);
+  gestion_sollicitations_reinitialiser();
+  gestion_section_reinitialiser();
+  gestion_materiau_reinitialiser();
+  qb7_quitter();
 }
 
 TEST(Phase, UneCopieASesNomsDeZones) {
