@@ -515,6 +515,9 @@ INSTANTIATE_TEST_SUITE_P(
         ba("AucunEffort", etat + fin, "Aucun effort defini"),
         ba("DernierePhaseSansEffort", phasee + "A_PO " + ame + g + tout + fin, "Aucun effort defini"),
         ba("SansGNiP", etat + q + fin, "Aucun Effort de type G ou P d" + accent + "fini"),
+        // the G of the phase before does not count
+        ba("DernierePhaseSansGNiP", phasee + "A_PO " + ame + g + tout + q + fin,
+           "Aucun Effort de type G ou P d" + accent + "fini"),
         ba("GqPhase", phasee + "POND " + ame + gq + fin, "Section BA : GQ interdit en mode phasage"),
         bp("PostGq", post + "POND " + gq + fin, "Effort de type GQ interdit en post-tension"),
         bp("PostGpEtP", post + "POND " + gp + p + fin, melange + "  : melange GP et P interdit"),

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <memory>
 #include <numbers>
 #include <optional>
@@ -352,7 +353,7 @@ zof_cadre_justification cadre() { return {"S1", "EXPLOITATION_SERVICE", "ELS_CAR
 TEST_F(Tableaux, LesDonneesDUnCas) {
   lire("CONT FUT " + rectangle + "FIN_CONT");
   ASSERT_EQ(qb7_fixer_repere_sollicitation(1, 0, 0, std::numbers::pi / 2), ier_2{});
-  deformation plan;
+  deformation plan{NAN, NAN, NAN};  // the search does not begin there
   const std::vector<std::string> commentaires = {"phase 1", "phase 2"};
   EXPECT_TRUE(zof_solliciter_section(cadre(), "  cas ", {0.6, 0, 0}, true, plan, commentaires));
   EXPECT_NEAR(plan.e0, 0.6 / 4500, 1e-5 * 0.6 / 4500);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 
 #include "Lecteur.hpp"
 #include "Outils.hpp"
@@ -428,32 +429,76 @@ struct materiau_nu : uef_element<materiau_nu, zof_materiau> {
   void decoder_materiau(bool&) override {}
 };
 
-TEST(Lecture, UneSituationQueLesMateriauxNOntPas) {
-  gestion_sollicitations_reinitialiser();
-  gestion_section_reinitialiser();
-  gestion_materiau_reinitialiser();
-  qb7_quitter();
-  materiau_nu m;
-  m.set_nom_materiau("BETON");
-  m.set_type_materiau(type_materiau_beton);
-  m.set_numero_materiau_qb7(1);
-  gestion_materiau.zof_mod_les_materiaux.creer("materiaux", m, 10, true);
-  gestion_materiau.zof_mod_les_materiaux.ajouter(m);
-  lecteur lu(
-      "S1 TITR 's' CONT FUT MATE BETON RECT HAUT 1. LARG 1. FIN_RECT FIN_CONT FIN_SECT\n"
-      "T SECT S1 TITR 't' REPE GEOM ETAT ELS CARA SITU EXPL SERV A_PO EFFO G N 1. FIN_EFFO\n");
+/// Sections of such materials, read by the system's own reader.
+class Lecture : public ::testing::Test {
+ protected:
+  void TearDown() override { vider(); }
+  void lire(const std::string& donnees) {
+    vider();
+    materiau("BETON", type_materiau_beton_precontraint);
+    materiau("TORON", type_materiau_precontrainte);
+    lu.emplace(donnees);
+    bool erco = false;
+    zof_decoder_creer_section(erco);
+    ASSERT_FALSE(erco) << lu->console();
+  }
+  std::optional<lecteur> lu;
+
+ private:
+  static void materiau(std::string_view nom_materiau, int type) {
+    materiau_nu m;
+    m.set_nom_materiau(nom_materiau);
+    m.set_type_materiau(type);
+    auto& materiaux = gestion_materiau.zof_mod_les_materiaux;
+    if (!materiaux.est_cree()) materiaux.creer("materiaux", m, 10, true);
+    m.set_numero_materiau_qb7(materiaux.nombre() + 1);
+    materiaux.ajouter(m);
+  }
+  static void vider() {
+    gestion_sollicitations_reinitialiser();
+    gestion_section_reinitialiser();
+    gestion_materiau_reinitialiser();
+    qb7_quitter();
+  }
+};
+
+const std::string section_nue = "S1 TITR 's' CONT FUT MATE BETON RECT HAUT 1. LARG 1. FIN_RECT\n";
+
+TEST_F(Lecture, UneSituationQueLesMateriauxNOntPas) {
+  lire(section_nue +
+       "FIN_CONT FIN_SECT\nT SECT S1 TITR 't' REPE GEOM ETAT ELS CARA SITU EXPL SERV A_PO EFFO G N 1.\n");
   bool erco = false;
-  zof_decoder_creer_section(erco);
-  ASSERT_FALSE(erco) << lu.console();
   zof_decoder_sollicitations(erco);
   EXPECT_TRUE(erco);
   EXPECT_NE(
-      lu.console().find("     - Situation non definie : EXPLOITATION_SERVICE" + std::string(12, ' ') + "\n"),
+      lu->console().find("     - Situation non definie : EXPLOITATION_SERVICE" + std::string(12, ' ') + "\n"),
       std::string::npos);
-  gestion_sollicitations_reinitialiser();
-  gestion_section_reinitialiser();
-  gestion_materiau_reinitialiser();
-  qb7_quitter();
+}
+
+// The warning is for cables without tensions.
+TEST_F(Lecture, DesTensionsDonneesNAvertissentPas) {
+  lire(section_nue +
+       "PREC C1 MATE TORON AIRE 150. POIN NUME 11 Y 0. Z -0.3D0 FIN_ NUME 12 Y 0. Z -0.2D0 FIN_ FIN_POIN "
+       "FIN_PREC FIN_CONT FIN_SECT\n"
+       "GP N 1.5 TENS PREC C1 POIN 11 TENS 0.0 INJE 1. PREC C1 POIN 12 TENS 900. NON_ FIN_TENS FIN_EFFO\n"
+       "P MZ 0.5 FIN_EFFO\n");
+  bool erco = false;
+  zof_effort avec;
+  avec.m_nom_section = "S1";
+  zof_decoder_efforts(avec, "S1", true, erco);
+  ASSERT_FALSE(erco) << lu->console();
+  EXPECT_EQ(lu->console().find("ATTENTION"), std::string::npos);
+  EXPECT_EQ(avec.get_efforts(), (efforts{1.5, 0, 0}));
+  EXPECT_EQ(zof_get_tensions_effort_p(avec), (std::vector{0.0, 900.0}));
+  EXPECT_EQ(zof_get_rhos_effort_p(avec).at(0), 1);
+  EXPECT_FALSE(est_renseigne_double(zof_get_rhos_effort_p(avec).at(1)));
+  zof_effort sans;
+  sans.m_nom_section = "S1";
+  zof_decoder_efforts(sans, "S1", true, erco);
+  EXPECT_FALSE(erco);
+  EXPECT_NE(lu->console().find("     - ATTENTION :Les tensions ne sont pas d\xEF\xBF\xBD"
+                               "finies avec GP ou P\n"),
+            std::string::npos);
 }
 
 TEST(Phase, UneCopieASesNomsDeZones) {
