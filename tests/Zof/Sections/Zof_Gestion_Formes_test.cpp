@@ -193,6 +193,10 @@ TEST(Formes, TeEncorbellement) {
   verifier_acceptee(sans_joue + "L_JO 0.2 H_JO 0.5 FIN_", 10);
   verifier_acceptee(sans_joue + "FIN_", 8);
   verifier_acceptee("TE_E H_TO 0.4 L_TO 5. H_EX 0.2 H_OR 0.4 L_EN 1.5 FIN_", 6);
+  verifier_acceptee("TE_E H_TO 0.4 L_TO 5. H_EX 0.4 H_OR 0.4 L_EN 1.5 FIN_", 6);
+  // Overhangs that meet are no longer than half the width: what is refused is the web without width.
+  verifier("TE_E H_TO 1. L_TO 3. H_EX 0.2 H_OR 0.4 L_EN 1.5 FIN_",
+           {" Duplication de point :     5 zone : C1"});
 }
 
 TEST(Formes, CaissonCotes) {
@@ -248,6 +252,8 @@ TEST(Formes, CaissonControles) {
             "Attribut largeurs joue + encobellement + ame + goussets intrados> largeur totale/2",
             "Attribut largeurs joue + encobellement + ame + goussets extrados> largeur totale/2"});
   verifier(courant + "L_IN 0.4 FIN_", {"Attribut largeur intrados <= epaisseur_ame+l_goussets_intrado"});
+  verifier(courant + "H_GI 0.1 L_GI 0.3 L_IN 0.7 FIN_",
+           {"Attribut largeur intrados <= epaisseur_ame+l_goussets_intrado"});
   verifier(courant + "L_IN 5.1 FIN_", {"Attribut largeur intrados >l_totale-2*l_encorbellement"});
   verifier(courant + "L_IN 4.9 L_JO 0.2 H_JO 0.2 FIN_",
            {"Attribut largeur intrados >l_totale-2*l_encorbellement-2*l_joue"});

@@ -387,6 +387,14 @@ TEST(Zone, Charpente) {
   EXPECT_EQ(zof_get_nom_materiau_principal_section("S1"), texte<32>("S355"));
   EXPECT_EQ(zof_get_nombre_materiau_section("S1"), 2);
   EXPECT_EQ(zof_get_nom_materiau_section("S1", 2), texte<32>("GENE"));
+  // The zone of the frame has the number 1, its profiles follow.
+  for (const auto& [zone, attendue] : {std::pair{2, 0.010}, std::pair{3, 0.020}}) {
+    double matiere = 0;
+    double encombrement = 0;
+    ASSERT_EQ(qb7_lire_param_zone(1, zone, &matiere, &encombrement), ier_2{});
+    EXPECT_NEAR(matiere, attendue, 1e-17);
+    EXPECT_NEAR(encombrement, attendue, 1e-17);
+  }
   zof_activer_section("S1");
   caracteristiques_mecaniques c;
   ASSERT_EQ(qb7_caracteristiques_mecaniques(1, 1001, c), ier_2{});
@@ -413,6 +421,35 @@ TEST(Zone, UnProfilSansMateriauPrendCeluiDeSaCharpente) {
     ASSERT_EQ(qb7_lire_num_materiau(1, p.m_numero_zone_qb7, materiau), ier_2{});
     EXPECT_EQ(materiau, attendus[static_cast<std::size_t>(i) - 1]);
   }
+}
+
+// A void takes tendons, contours and frames: they stand in the open, and nothing of the void comes back.
+// Transformed: 1 - 0.25 + 0.04 + 0.2 x 0.010 + 15 x 0.0015 = 0.8145.
+TEST(Zone, CeQuiTientDansUnEvidement) {
+  modele m(
+      section("CONT C1 MATE GENE RECT HAUT 1.D0 LARG 1.D0 FIN_ EVID E1 RECT HAUT 0.5D0 LARG 0.5D0 FIN_\n"
+              "CONT C2 MATE GENE RECT HAUT 0.2D0 LARG 0.2D0 FIN_ FIN_CONT\n"
+              "CHAR H1 MATE S355 " +
+              points({{0.2, -0.1}, {0.2, 0.1}}) +
+              "PROF NUME 1 ORIG 1 EXTR 2 EPAI 10. FIN_ FIN_PROF FIN_CHAR\n"
+              "PREC P1 MATE TORON AIRE 1500. " +
+              points({{-0.2, 0}}) + "FIN_PREC FIN_EVID FIN_CONT"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  zof_activer_section("S1");
+  caracteristiques_mecaniques c;
+  ASSERT_EQ(qb7_caracteristiques_mecaniques(1, 1001, c), ier_2{});
+  EXPECT_NEAR(c.e_sx, 0.792, 1e-15);
+  ASSERT_EQ(qb7_caracteristiques_mecaniques(1, 1003, c), ier_2{});
+  EXPECT_NEAR(c.e_sx, 0.8145, 1e-15);
+}
+
+// A generic material stands for any: concrete that bars and tendons reinforce, the bars, the tendons.
+TEST(Zone, UnMateriauGeneriqueConvientPartout) {
+  modele m(section("CONT C1 MATE GENE RECT HAUT 1. LARG 1. FIN_ FERR F1 MATE GENE DIAM 20. " +
+                   points({{0, 0.2}}) + "FIN_FERR\nPREC P1 MATE GENE AIRE 100. " + points({{0, -0.2}}) +
+                   "FIN_PREC\nCHAR H1 MATE GENE " + points({{0.2, 0}, {0.3, 0}}) +
+                   "PROF NUME 1 ORIG 1 EXTR 2 EPAI 5. FIN_ FIN_PROF FIN_CHAR FIN_CONT"));
+  EXPECT_TRUE(m.lire()) << m.console();
 }
 
 // A frame cast in concrete takes the place of the concrete that it displaces.
@@ -460,6 +497,7 @@ TEST(Zone, Refus) {
         l1(" Présence  de câbles alors que le materiau n'est pas du type béton precontraint"_l1)},
        {contour("POIN NUME 1 Y 0. Z 0. FIN_ NUME 2 Y 0. Z 1. FIN_ NUME 3 Y 1. Z 0. FIN_ FIN_POIN"),
         l1(" l aire de la zone C1  est  négative :-0.50000"_l1)},
+       {contour(points({{0, 0}, {1, 0}, {2, 0}})), l1(" l aire de la zone C1  est  négative :0.0000"_l1)},
        // Voids
        {rectangle("EVID E1 MATE"), " Mot clef  Materiau incorrect dans ce contexte"},
        {rectangle("EVID E1 EVID"), " Mot clef  EVID incorrect dans ce contexte"},
@@ -595,12 +633,13 @@ TEST(Symetrie, UneImageNePrendPasLeNumeroDUnPointDeSaZone) {
 }
 
 TEST(Symetrie, UnPointSurLAxeNAPasDImage) {
-  const std::string corps = "POIN NUME 1 Y 0. Z 0.001D0 FIN_ NUME 2 Y 0.1D0 Z 0.2D0 FIN_ FIN_POIN";
+  const std::string corps =
+      "POIN NUME 1 Y 0. Z 0.001D0 FIN_ NUME 2 Y 0.1D0 Z 0.2D0 FIN_ NUME 3 Y 0.1D0 Z 0.0011D0 FIN_ FIN_POIN";
   modele m(section("CONT C1 MATE BA RECT HAUT 0.5 LARG 0.3 FIN_ FERR F1 MATE HA DIAM 20. PART " + corps +
                        " FIN_FERR FIN_CONT",
                    "SYME Y"));
   ASSERT_TRUE(m.lire()) << m.console();
-  EXPECT_TRUE(egaux(points_de("F1"), {{0, 0.001}, {0.1, 0.2}, {0.1, -0.2}}));
+  EXPECT_TRUE(egaux(points_de("F1"), {{0, 0.001}, {0.1, 0.2}, {0.1, 0.0011}, {0.1, -0.2}, {0.1, -0.0011}}));
 }
 
 // Bars: the listed points, then their images in the same order, by Z and then by Y of all so far.
