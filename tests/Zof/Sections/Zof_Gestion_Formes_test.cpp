@@ -132,6 +132,8 @@ TEST(Formes, ISymetrique) {
   verifier("I_SY H_TO 1. L_TO 0.5 H_TA 0.5 L_AM 0.1 FIN_", {"Attribut 2*hauteur table >= hauteur totale"});
   verifier("I_SY H_TO 1. L_TO 0.5 H_TA 0.5 L_AM 0.1 H_JO 0.5 L_JO 0.2 FIN_",
            {"Attribut hauteur table +joue >= hauteur totale", joues_trop_larges});
+  // The slope counts once: slopes that cross in the web are accepted.
+  verifier_acceptee("I_SY H_TO 1. L_TO 0.5 H_TA 0.2 L_AM 0.1 H_JO 0.5 FIN_", 12);
 }
 
 TEST(Formes, INonSymetrique) {
