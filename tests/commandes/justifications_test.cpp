@@ -351,6 +351,16 @@ TEST(PivotC, NAjouteRienEnService) {
   EXPECT_THAT(c.console, Not(HasSubstr("Pivot C")));
 }
 
+// Concrete that is meant for prestress has it too.
+TEST(PivotC, UnBetonPrecontraintALeSien) {
+  std::string donnees = poteau + soll_poteau("GEOM", "ELU DURA", "EFFO GQ N 1. FIN_EFFO") +
+                        "JUST POTEAU PIVO JUST SOLL T FIN_JUST\nFIN_\n";
+  donnees.replace(donnees.find("PREC NON"), 8, "PREC OUI");
+  const course c = executer(donnees);
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.console, HasSubstr("==> Pivot C - FUT : justifie\n"));
+}
+
 TEST(PivotC, EnSituationAccidentelleAussi) {
   const course c = executer(poteau +
                             "SOLL T SECT POTEAU TITR 't' REPE GEOM ETAT ELU ACCI SITU ACCI POND "

@@ -67,6 +67,8 @@ FIN_SOLL)");
   EXPECT_EQ(durable.label_etat_limite.utile(), "ELU_DURABLE");
   EXPECT_EQ(durable.label_situation.utile(), "EXPLOITATION_SERVICE");
   EXPECT_EQ(durable.nb_phases, 1);
+  EXPECT_EQ(zof_get_titre_phase_sollicitation("POUTRE", "T", 1, 1).utile(), "Phase initiale");
+  EXPECT_TRUE(zof_get_zones_actives_phase_sollicitation("POUTRE", "T", 1, 1).empty());
   EXPECT_FALSE(zof_est_etat_limite_pondere("POUTRE", "T", 1));
   const auto frequent = zof_get_situation_sollicitations("POUTRE", "T", 2);
   EXPECT_EQ(frequent.label_etat_limite.utile(), "ELS_FRE_NF");
@@ -76,6 +78,8 @@ FIN_SOLL)");
   ASSERT_EQ(g.size(), 1U);
   EXPECT_EQ(g[0].get_efforts(), (efforts{1.5, 0.25, -0.125}));
   EXPECT_EQ(g[0].m_titre.utile(), "poids propre");
+  EXPECT_EQ(g[0].m_nom_section.utile(), "POUTRE");
+  EXPECT_EQ(g[0].m_numero_phase, 1);
   // A component that is not given is zero, and an effort without title keeps the mark of what is not given.
   const auto q = zof_get_efforts_etat_limite_sollicitations("POUTRE", "T", 1, "Q");
   EXPECT_EQ(q.at(0).get_efforts(), (efforts{0, 0.5, 0}));
@@ -284,6 +288,20 @@ FIN_SOLL)"));
   EXPECT_NEAR(g.at(0).m_n, 2, 1e-15);
   EXPECT_NEAR(g.at(0).m_my, 0.9, 1e-12);
   EXPECT_NEAR(g.at(0).m_mz, 0.05, 1e-12);
+}
+
+// A frame of the block before is forgotten once the block gives its own.
+TEST_F(Stockage, LeRepereGeometriqueRemplaceCeluiDuBlocPrecedent) {
+  lire(donnees::beton_arme, R"(
+SOLL U SECT POUTRE TITR 'u' REPE Y 0.1D0 Z 0.15D0 ANGL 20.
+  ETAT ELU DURA SITU SERV POND EFFO G N 2 FIN_EFFO FIN_ETAT
+FIN_SOLL
+SOLL T SECT POUTRE TITR 't' REPE GEOM
+  ETAT ELU DURA SITU SERV POND EFFO G N 2 MY 0.1D0 REPE TABLE FIN_EFFO FIN_ETAT
+FIN_SOLL)");
+  const auto g = zof_get_efforts_etat_limite_sollicitations("POUTRE", "T", 1, "G");
+  EXPECT_NEAR(g.at(0).m_my, 0.9, 1e-12);
+  EXPECT_NEAR(g.at(0).m_mz, 0, 1e-12);
 }
 
 // To the user's frame at (0.1, 0.15): My = 0.1 + 2 (0.4 - 0.15), Mz = 0.05 + 2 x 0.1.
