@@ -2,20 +2,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "Executer.hpp"
-#include "Modele.hpp"
-#include "QB7_Sections.hpp"
+#include "Blocs_Materiaux.hpp"
 #include "Zof_Classe_Materiau_Acier_EC.hpp"
 #include "Zof_Classe_Materiau_Beton_EC.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Utilit.hpp"
 
+using namespace blocs_mate;
 using namespace socle;
 using testing::HasSubstr;
 using testing::Not;
@@ -54,82 +51,11 @@ const zof_situation_acier_ec& la_situation_acier(const char* label = "EXPLOITATI
       *zof_get_pt_situation_materiau("B500", std::string(label)));
 }
 
-/// Tests that read data files and ask the model while it stands.
-class commande : public ::testing::Test {
- protected:
-  /// Reads the blocks without an error.
-  void lire(const std::string& blocs) {
-    modele_.reset();
-    modele_ = std::make_unique<modele>(blocs + "\nFIN_\n");
-    EXPECT_FALSE(modele_->erco()) << modele_->console();
-  }
-
- private:
-  std::unique_ptr<modele> modele_;
-};
 using CommandeMate = commande;
 using MateBeton = commande;
 using SituationBeton = commande;
 using MateAcier = commande;
 using SituationAcier = commande;
-
-course executer_bloc(const std::string& blocs) { return executer("ZOF\n" + blocs + "\nFIN_\n"); }
-
-/// The run ended on this error alone, told on the console and in the listing, the notes closed.
-void verifier_refus(const std::string& blocs, const std::string& lignes) {
-  const course c = executer_bloc(blocs);
-  EXPECT_EQ(c.statut, 1) << lignes;
-  EXPECT_THAT(c.console, HasSubstr("Erreur de commande : \n" + lignes + "\nFIN DE L EXECUTION\n"));
-  EXPECT_THAT(c.listing, HasSubstr("Erreur de commande : \n" + lignes + "\n"));
-  EXPECT_THAT(c.listing, Not(HasSubstr("Execution de Zof terminee")));
-}
-std::string message(vue_l1 texte_du_message) { return concat({"     - ", texte_du_message}); }
-std::string repetition(vue_l1 mot) { return concat({"     - Repetition interdite du mot clef:", mot}); }
-std::string repetition_titre() { return "       - Repetition interdite du mot clef:TITR"; }
-std::string mot_incorrect(vue_l1 mot) {
-  return concat({"     -  Mot clef  ", mot, " incorrect dans ce contexte"});
-}
-
-/// The run stopped at once on these last lines, the notes left open.
-void verifier_arret(const std::string& blocs, const std::string& lignes) {
-  const course c = executer_bloc(blocs);
-  EXPECT_EQ(c.statut, 1) << lignes;
-  EXPECT_TRUE(c.console.ends_with(lignes + "\n")) << c.console;
-  EXPECT_TRUE(c.listing.ends_with(lignes + "\n")) << c.listing;
-}
-
-/// The engine refused a law with this code and stopped the run.
-void verifier_arret_du_moteur(const std::string& blocs, const std::string& code) {
-  const course c = executer_bloc(blocs);
-  EXPECT_EQ(c.statut, 1);
-  EXPECT_TRUE(c.console.ends_with(" Erreur : " + code + "\n")) << c.console;
-  EXPECT_THAT(c.console, HasSubstr(" Erreur dans Procedure :"));
-  EXPECT_THAT(c.listing, HasSubstr(" Erreur : " + code + "\n"));
-  EXPECT_THAT(c.listing, Not(HasSubstr("Execution de Zof terminee")));
-}
-
-struct cas {
-  std::string mots;
-  std::string lignes;
-};
-
-double contrainte(int materiau, int etat, double epsilon) {
-  double sigma = 0;
-  EXPECT_FALSE(qb7_contrainte_materiau(materiau, etat, epsilon, sigma));
-  return sigma;
-}
-double borne_max(int materiau, int etat) {
-  double epsilon_min = 0;
-  double epsilon_max = 0;
-  EXPECT_FALSE(qb7_lire_bornes_loi(materiau, etat, epsilon_min, epsilon_max));
-  return epsilon_max;
-}
-double borne_min(int materiau, int etat) {
-  double epsilon_min = 0;
-  double epsilon_max = 0;
-  EXPECT_FALSE(qb7_lire_bornes_loi(materiau, etat, epsilon_min, epsilon_max));
-  return epsilon_min;
-}
 
 }  // namespace
 
@@ -186,7 +112,7 @@ TEST_F(CommandeMate, LesNomsSontCommunsAToutesLesFamilles) {
 }
 
 TEST_F(CommandeMate, UneFamilleInconnueEstRefusee) {
-  for (const std::string famille : {"BOIS", "PREC", "CHAR", "SPEC"})
+  for (const std::string famille : {"BOIS", "CHAR", "SPEC"})
     verifier_refus("MATE " + famille + " M TITR 'b'", mot_incorrect(famille));
   const course c = executer_bloc("MATE BETO 'C30'");
   EXPECT_EQ(c.statut, 1);
@@ -872,26 +798,6 @@ TEST_F(SituationAcier, LeMoteurRefuseUneLoiImpossible) {
 
 // --- The report
 // ------------------------------------------------------------------------------------------------
-
-namespace {
-
-/// The note's lines between two texts, blanks at their ends aside.
-std::string extrait(const std::string& note, const std::string& debut, const std::string& fin) {
-  const auto a = note.find(debut);
-  const auto b = note.find(fin, a);
-  if (a == std::string::npos || b == std::string::npos) return "not found:\n" + note;
-  std::string resultat;
-  for (std::size_t i = a; i < b;) {
-    const auto suivant = std::min(note.find('\n', i), b);
-    const auto ligne =
-        sans_blancs_initiaux(sans_blancs_finals(std::string_view(note).substr(i, suivant - i)));
-    if (!ligne.empty()) resultat += std::string(ligne) + "\n";
-    i = suivant + 1;
-  }
-  return resultat;
-}
-
-}  // namespace
 
 TEST(EditMate, Beton) {
   const course c = executer_bloc(beton("TYPE SANS CIME R SECT CAIS EXPO XC3 FATI TRAC OUI") + "\nEDIT MATE");

@@ -3,6 +3,7 @@
 #include "And_anadon.hpp"
 #include "Zof_Classe_Materiau_Acier_EC.hpp"
 #include "Zof_Classe_Materiau_Beton_EC.hpp"
+#include "Zof_Classe_Materiau_Precontrainte_EC.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Utilit.hpp"
 
@@ -55,6 +56,10 @@ void zof_decoder_creer_materiau(bool& erco) {
     // A concrete's kind is that of its keyword PREC, which the block must give.
     case "BETO"_mot:
       loc_creer_materiau<zof_materiau_beton_ec, zof_situation_beton_ec>(non_renseigne, erco);
+      break;
+    case "PREC"_mot:
+      loc_creer_materiau<zof_materiau_precontrainte_ec, zof_situation_precontrainte_ec>(
+          type_materiau_precontrainte, erco);
       break;
     default: zof_attribut_incorrect(mot, erco);
   }

@@ -1,0 +1,115 @@
+// What the tests of MATE share, whatever the kind of the material: blocks read into a model, runs that are
+// refused, laws as the section engine holds them, extracts of the note.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "Executer.hpp"
+#include "Modele.hpp"
+#include "QB7_Sections.hpp"
+#include "Texte.hpp"
+#include "Zof_Utilit.hpp"
+
+namespace blocs_mate {
+
+/// Tests that read data files and ask the model while it stands.
+class commande : public ::testing::Test {
+ protected:
+  /// Reads the blocks without an error.
+  void lire(const std::string& blocs) {
+    modele_.reset();
+    modele_ = std::make_unique<modele>(blocs + "\nFIN_\n");
+    EXPECT_FALSE(modele_->erco()) << modele_->console();
+  }
+  [[nodiscard]] const std::string& console() const { return modele_->console(); }
+
+ private:
+  std::unique_ptr<modele> modele_;
+};
+
+inline course executer_bloc(const std::string& blocs) { return executer("ZOF\n" + blocs + "\nFIN_\n"); }
+
+/// The run ended on this error alone, told on the console and in the listing, the notes closed.
+inline void verifier_refus(const std::string& blocs, const std::string& lignes) {
+  const course c = executer_bloc(blocs);
+  EXPECT_EQ(c.statut, 1) << lignes;
+  EXPECT_THAT(c.console, testing::HasSubstr("Erreur de commande : \n" + lignes + "\nFIN DE L EXECUTION\n"));
+  EXPECT_THAT(c.listing, testing::HasSubstr("Erreur de commande : \n" + lignes + "\n"));
+  EXPECT_THAT(c.listing, testing::Not(testing::HasSubstr("Execution de Zof terminee")));
+}
+
+inline std::string message(socle::vue_l1 texte_du_message) {
+  return socle::concat({"     - ", texte_du_message});
+}
+inline std::string repetition(socle::vue_l1 mot) {
+  return socle::concat({"     - Repetition interdite du mot clef:", mot});
+}
+inline std::string repetition_titre() { return "       - Repetition interdite du mot clef:TITR"; }
+inline std::string mot_incorrect(socle::vue_l1 mot) {
+  return socle::concat({"     -  Mot clef  ", mot, " incorrect dans ce contexte"});
+}
+
+/// The run stopped at once on these last lines, the notes left open.
+inline void verifier_arret(const std::string& blocs, const std::string& lignes) {
+  const course c = executer_bloc(blocs);
+  EXPECT_EQ(c.statut, 1) << lignes;
+  EXPECT_TRUE(c.console.ends_with(lignes + "\n")) << c.console;
+  EXPECT_TRUE(c.listing.ends_with(lignes + "\n")) << c.listing;
+}
+
+/// The engine refused a law with this code and stopped the run.
+inline void verifier_arret_du_moteur(const std::string& blocs, const std::string& code) {
+  const course c = executer_bloc(blocs);
+  EXPECT_EQ(c.statut, 1);
+  EXPECT_TRUE(c.console.ends_with(" Erreur : " + code + "\n")) << c.console;
+  EXPECT_THAT(c.console, testing::HasSubstr(" Erreur dans Procedure :"));
+  EXPECT_THAT(c.listing, testing::HasSubstr(" Erreur : " + code + "\n"));
+  EXPECT_THAT(c.listing, testing::Not(testing::HasSubstr("Execution de Zof terminee")));
+}
+
+struct cas {
+  std::string mots;
+  std::string lignes;
+};
+
+inline double contrainte(int materiau, int etat, double epsilon) {
+  double sigma = 0;
+  EXPECT_FALSE(qb7_contrainte_materiau(materiau, etat, epsilon, sigma));
+  return sigma;
+}
+inline double borne_max(int materiau, int etat) {
+  double epsilon_min = 0;
+  double epsilon_max = 0;
+  EXPECT_FALSE(qb7_lire_bornes_loi(materiau, etat, epsilon_min, epsilon_max));
+  return epsilon_max;
+}
+inline double borne_min(int materiau, int etat) {
+  double epsilon_min = 0;
+  double epsilon_max = 0;
+  EXPECT_FALSE(qb7_lire_bornes_loi(materiau, etat, epsilon_min, epsilon_max));
+  return epsilon_min;
+}
+
+/// The note's lines between two texts, blanks at their ends aside.
+inline std::string extrait(const std::string& note, const std::string& debut, const std::string& fin) {
+  const auto a = note.find(debut);
+  const auto b = note.find(fin, a);
+  if (a == std::string::npos || b == std::string::npos) return "not found:\n" + note;
+  std::string resultat;
+  for (std::size_t i = a; i < b;) {
+    const auto suivant = std::min(note.find('\n', i), b);
+    const auto ligne =
+        socle::sans_blancs_initiaux(socle::sans_blancs_finals(std::string_view(note).substr(i, suivant - i)));
+    if (!ligne.empty()) resultat += std::string(ligne) + "\n";
+    i = suivant + 1;
+  }
+  return resultat;
+}
+
+}  // namespace blocs_mate
