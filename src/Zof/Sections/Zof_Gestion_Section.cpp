@@ -13,6 +13,7 @@
 #include "QB7_Sections.hpp"
 #include "Simple.hpp"
 #include "UTL_02_Ecriture_Resu.hpp"
+#include "Zof_Classe_Materiau_Precontrainte_EC.hpp"
 #include "Zof_Classe_Situation_Materiau.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
@@ -206,9 +207,14 @@ bool zof_est_section_precontrainte(const texte<32>& nom_section) {
   return zof_get_nombre_type_zone_section(nom_section, nature_zone::precontrainte) > 0;
 }
 
-// No material has these strengths as long as MATE reads no prestressing steel.
-std::optional<double> zof_contrainte_limite_precontrainte_section(const texte<32>&, const texte<32>&) {
-  return {};
+std::optional<double> zof_contrainte_limite_precontrainte_section(const texte<32>& nom_section,
+                                                                  const texte<32>& nom_precontrainte) {
+  const zof_precontrainte* const zone = loc_precontrainte(nom_section, nom_precontrainte);
+  if (zone == nullptr) return std::nullopt;
+  const auto* const acier =
+      dynamic_cast<const zof_materiau_precontrainte_ec*>(zof_get_pt_materiau(zone->m_nom_materiau_zone));
+  if (acier == nullptr) return std::nullopt;
+  return std::min(simple(0.8f) * zof_get_fpk(*acier), simple(0.9f) * zof_get_fp0_1k(*acier));
 }
 
 void zof_declarer_aciers_passifs_dimensionnables_section(const texte<32>& nom_section) {

@@ -353,6 +353,16 @@ TEST(Zone, LeDiametreDUnEvidementResteDansSonUnite) {
   EXPECT_EQ(zof_get_pt_nom_zone_section("S1", "E1")->m_diametre_zone, 50);
 }
 
+// Nothing tells the strengths of a tendon whose material is none of prestressing steel.
+TEST(Zone, UnCableDeMateriauGeneriqueNAPasDeContrainteLimite) {
+  modele m(
+      section("CONT C1 MATE GENE RECT HAUT 1.D0 LARG 0.5D0 FIN_ PREC P1 MATE GENE AIRE 1500. POIN NUME 5 Y "
+              "0. Z 0. FIN_ FIN_POIN FIN_PREC FIN_CONT"));
+  ASSERT_TRUE(m.lire()) << m.console();
+  EXPECT_TRUE(zof_existe_cable_section("S1", "P1", 5));
+  EXPECT_FALSE(zof_contrainte_limite_precontrainte_section("S1", "P1").has_value());
+}
+
 TEST(Zone, Gaine) {
   modele m(section(
       "CONT C1 MATE BP RECT HAUT 1.D0 LARG 0.5D0 FIN_ GAIN G1 DIAM 80. POIN NUME 1 Y 0. Z -0.3D0 FIN_ "
