@@ -133,6 +133,9 @@ TEST_F(MatePrecontrainte, Refus) {
                  message("FP0.1K doit etre renseigne avant l option Situation"));
   verifier_refus("MATE PREC T FP01 1600. SITU SEIS",
                  message("FPK doit etre renseigne avant l option Situation"));
+  verifier_refus("MATE PREC T SITU SEIS",
+                 "     - FP0.1K doit etre renseigne avant l option Situation\n"
+                 "     - FPK doit etre renseigne avant l option Situation");
   verifier_refus(
       "MATE PREC T FIN_MATE",
       "     - Titre: non renseigne(e)\n     - FP0_: non renseigne(e)\n     - FPK: non renseigne(e)");
@@ -342,8 +345,9 @@ TEST_F(SituationPrecontrainte, Refus) {
   verifier_refus(precontrainte("SITU FIN_SITU"),
                  "     - La Situation de projet doit etre renseignee \n     - Titre: non renseigne(e)");
   for (const std::string mots : {"EXPL SERV", "EXPL INFI", "CONS", "ACCI", "SEIS"})
-    verifier_refus(precontrainte("SITU " + mots + " TITR 's' FIN_SITU SITU " + mots + " TITR 's' FIN_SITU"),
-                   message("Situation deja definie"));
+    verifier_refus(
+        precontrainte(concat({"SITU ", mots, " TITR 's' FIN_SITU SITU ", mots, " TITR 's' FIN_SITU"})),
+        message("Situation deja definie"));
   verifier_arret(precontrainte("SITU SEIS TITR 's' FIN_MATE"),
                  "Erreur de commande : \n     - FIN_MATEIncorrect dans ce contexte - Attendu : FIN_SITU\n"
                  "ARRET PREMATURE DE ZOF");
@@ -357,7 +361,7 @@ TEST_F(SituationPrecontrainte, RepetitionsDesParametres) {
         "DEFO ELU BILI RUPT", "MODU"}) {
     std::string nom = entree;
     std::replace(nom.begin(), nom.end(), ' ', '_');
-    verifier_refus(situation_precontrainte("PARA " + entree + " 1. FIN_ PARA " + entree + " 1."),
+    verifier_refus(situation_precontrainte(concat({"PARA ", entree, " 1. FIN_ PARA ", entree, " 1."})),
                    repetition(nom));
   }
 }

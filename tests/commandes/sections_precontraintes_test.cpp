@@ -151,6 +151,20 @@ TEST(Cables, LesImagesParSymetrieSontDesCables) {
             zof_get_numero_qb7_cable_section("PONT", "P1", 40001));
 }
 
+// Half the ducts and half the tendons in them: an image of a tendon stands in the image of its duct.
+TEST(Cables, LesGainesSontSymetriquesAvecLeursCables) {
+  const auto m = lire(
+      poutre("GAIN G1 DIAM 2. PART POIN NUME 1 Y 0.1D0 Z -0.4D0 FIN_ FIN_POIN\n"
+             "PREC P1 MATE T15 AIRE 2. PART POIN NUME 7 Y 0.1D0 Z -0.4D0 FIN_ FIN_POIN FIN_PREC FIN_GAIN",
+             "SYME Z"));
+  EXPECT_TRUE(zof_existe_cable_section("PONT", "P1", 7));
+  int images = 0;
+  for (const int point : {40001, 40002})
+    if (zof_existe_cable_section("PONT", "P1", point)) ++images;
+  EXPECT_EQ(images, 1);
+  EXPECT_EQ(lire_parametres(zof_get_numero_qb7_cable_section("PONT", "P1", 7)).encombrement, 0);
+}
+
 // A tendon in a void displaces nothing.
 TEST(Cables, DansUnEvidementIlsNOtentRien) {
   const auto m =
