@@ -1,4 +1,5 @@
-// The fuzzer's corpus as a plain test: files that once broke a rule, and files that reach far into the commands.
+// The fuzzer's corpus as a plain test: files that once broke a rule, and files that reach far into the
+// commands.
 #include <gtest/gtest.h>
 
 #include <filesystem>
