@@ -9,11 +9,13 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "Executer.hpp"
 #include "Modele.hpp"
 #include "QB7_Sections.hpp"
 #include "Texte.hpp"
+#include "Zof_Classe_Materiau.hpp"
 #include "Zof_Utilit.hpp"
 
 namespace blocs_mate {
@@ -77,6 +79,35 @@ struct cas {
   std::string mots;
   std::string lignes;
 };
+
+/// The whole block of a material around these words.
+using bloc_de_materiau = std::string (*)(const std::string& mots);
+
+/// A situation block begins with a kind that exists, before anything else of it.
+inline void verifier_situation_d_abord(bloc_de_materiau materiau) {
+  using namespace socle;
+  verifier_refus(materiau("SITU EXPL LONG"), mot_incorrect("LONG"));
+  for (const std::string mots : {"EXPL SERV", "SEIS"})
+    verifier_refus(materiau("SITU TITR 's' " + mots), message("situation incorrectement definie"));
+  verifier_refus(
+      materiau("SITU PARA"),
+      message("La Situation de projet doit etre renseignee avant de définir les parametres avances"_l1));
+}
+
+/// A material has one situation of each kind at the most.
+inline void verifier_situations_uniques(bloc_de_materiau materiau) {
+  for (const std::string mots : {"EXPL SERV", "EXPL INFI", "CONS", "ACCI", "SEIS"})
+    verifier_refus(materiau("SITU " + mots + " TITR 's' FIN_SITU SITU " + mots + " TITR 's' FIN_SITU"),
+                   message("Situation deja definie"));
+}
+
+/// Labels of the material's situations, in their order.
+inline std::vector<std::string> situations_de(const zof_materiau& materiau) {
+  std::vector<std::string> labels;
+  for (const zof_situation_materiau& s : uef_parcours<zof_situation_materiau>(materiau.m_les_situations))
+    labels.emplace_back(s.get_label_situation().utile());
+  return labels;
+}
 
 inline double contrainte(int materiau, int etat, double epsilon) {
   double sigma = 0;

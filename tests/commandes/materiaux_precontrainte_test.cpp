@@ -41,12 +41,6 @@ std::vector<std::string> etats_de(const zof_situation_materiau& s) {
     labels.emplace_back(e.m_label_etat_limite.utile());
   return labels;
 }
-std::vector<std::string> situations_du_materiau() {
-  std::vector<std::string> labels;
-  for (const zof_situation_materiau& s : uef_parcours<zof_situation_materiau>(le_materiau().m_les_situations))
-    labels.emplace_back(s.get_label_situation().utile());
-  return labels;
-}
 int type_trou(int etat) {
   int type = 0;
   EXPECT_FALSE(qb7_lire_type_trou(1, etat, type));
@@ -70,7 +64,7 @@ TEST_F(MatePrecontrainte, SansSituationLesCinqSontCreees) {
   EXPECT_EQ(zof_get_fp0_1k(le_materiau()), 1600);
   EXPECT_EQ(zof_get_fpk(le_materiau()), 1860);
   EXPECT_EQ(le_materiau().m_type_precontrainte, precontrainte_toron);
-  EXPECT_EQ(situations_du_materiau(),
+  EXPECT_EQ(situations_de(le_materiau()),
             (std::vector<std::string>{"EXPLOITATION_SERVICE", "EXPLOITATION_INFINIE", "CONSTRUCTION",
                                       "SEISME", "ACCIDENT"}));
   int rang = 0;
@@ -86,7 +80,7 @@ TEST_F(MatePrecontrainte, SansSituationLesCinqSontCreees) {
 
 TEST_F(MatePrecontrainte, LesSituationsDonneesPrecedentLesAutres) {
   lire(precontrainte("SITU SEIS TITR 'Seisme' FIN_SITU SITU EXPL INFI TITR 'Longue' FIN_SITU"));
-  EXPECT_EQ(situations_du_materiau(),
+  EXPECT_EQ(situations_de(le_materiau()),
             (std::vector<std::string>{"SEISME", "EXPLOITATION_INFINIE", "EXPLOITATION_SERVICE",
                                       "CONSTRUCTION", "ACCIDENT"}));
   EXPECT_EQ(la_situation("SEISME").get_titre_situation().utile(), "Seisme");
@@ -337,17 +331,10 @@ TEST_F(SituationPrecontrainte, Refus) {
     SCOPED_TRACE(r.mots);
     verifier_refus(situation_precontrainte(r.mots), r.lignes);
   }
-  verifier_refus(precontrainte("SITU EXPL LONG"), mot_incorrect("LONG"));
-  verifier_refus(precontrainte("SITU TITR 's' SEIS"), message("situation incorrectement definie"));
-  verifier_refus(
-      precontrainte("SITU PARA"),
-      message("La Situation de projet doit etre renseignee avant de définir les parametres avances"_l1));
+  verifier_situation_d_abord(precontrainte);
   verifier_refus(precontrainte("SITU FIN_SITU"),
                  "     - La Situation de projet doit etre renseignee \n     - Titre: non renseigne(e)");
-  for (const std::string mots : {"EXPL SERV", "EXPL INFI", "CONS", "ACCI", "SEIS"})
-    verifier_refus(
-        precontrainte(concat({"SITU ", mots, " TITR 's' FIN_SITU SITU ", mots, " TITR 's' FIN_SITU"})),
-        message("Situation deja definie"));
+  verifier_situations_uniques(precontrainte);
   verifier_arret(precontrainte("SITU SEIS TITR 's' FIN_MATE"),
                  "Erreur de commande : \n     - FIN_MATEIncorrect dans ce contexte - Attendu : FIN_SITU\n"
                  "ARRET PREMATURE DE ZOF");

@@ -145,20 +145,15 @@ TEST_F(MateBeton, SansSituationLesCinqSontCreees) {
   EXPECT_EQ(b.m_classe_exposition, 1);
   EXPECT_EQ(b.get_categorie_zone_section(), categorie_normale);
   EXPECT_TRUE(b.m_is_critere_fatigue_simplifie_comp && b.m_is_critere_fatigue_simplifie_trac);
-  std::vector<std::string> labels;
-  for (const zof_situation_materiau& s : uef_parcours<zof_situation_materiau>(b.m_les_situations))
-    labels.emplace_back(s.get_label_situation().utile());
-  EXPECT_EQ(labels, (std::vector<std::string>{"EXPLOITATION_SERVICE", "EXPLOITATION_INFINIE", "CONSTRUCTION",
-                                              "SEISME", "ACCIDENT"}));
+  EXPECT_EQ(situations_de(b), (std::vector<std::string>{"EXPLOITATION_SERVICE", "EXPLOITATION_INFINIE",
+                                                        "CONSTRUCTION", "SEISME", "ACCIDENT"}));
 }
 
 TEST_F(MateBeton, LesSituationsDonneesPrecedentLesAutres) {
   lire(beton("SITU ACCI TITR 'Choc' FIN_SITU SITU CONS TITR 'Chantier' FIN_SITU"));
-  std::vector<std::string> labels;
-  for (const zof_situation_materiau& s : uef_parcours<zof_situation_materiau>(le_beton().m_les_situations))
-    labels.emplace_back(s.get_label_situation().utile());
-  EXPECT_EQ(labels, (std::vector<std::string>{"ACCIDENT", "CONSTRUCTION", "EXPLOITATION_SERVICE",
-                                              "EXPLOITATION_INFINIE", "SEISME"}));
+  EXPECT_EQ(situations_de(le_beton()),
+            (std::vector<std::string>{"ACCIDENT", "CONSTRUCTION", "EXPLOITATION_SERVICE",
+                                      "EXPLOITATION_INFINIE", "SEISME"}));
   EXPECT_EQ(la_situation_beton("ACCIDENT").get_titre_situation().utile(), "Choc");
   EXPECT_EQ(la_situation_beton("CONSTRUCTION").get_numero_ordre_situation(), 2);
   EXPECT_EQ(la_situation_beton("SEISME").get_titre_situation().utile(), "SEISME");
@@ -427,18 +422,10 @@ TEST_F(SituationBeton, Refus) {
     SCOPED_TRACE(r.mots);
     verifier_refus(situation_beton(r.mots), r.lignes);
   }
-  verifier_refus(beton("SITU TITR 's' EXPL SERV"), message("situation incorrectement definie"));
-  verifier_refus(beton("SITU EXPL LONG"), mot_incorrect("LONG"));
-  verifier_refus(
-      beton("SITU PARA"),
-      message("La Situation de projet doit etre renseignee avant de définir les parametres avances"_l1));
+  verifier_situation_d_abord(beton);
 }
 
-TEST_F(SituationBeton, UneSituationNeSeDefinitQuUneFois) {
-  for (const std::string mots : {"EXPL SERV", "EXPL INFI", "CONS", "ACCI", "SEIS"})
-    verifier_refus(beton("SITU " + mots + " TITR 's' FIN_SITU SITU " + mots + " TITR 's' FIN_SITU"),
-                   message("Situation deja definie"));
-}
+TEST_F(SituationBeton, UneSituationNeSeDefinitQuUneFois) { verifier_situations_uniques(beton); }
 
 TEST_F(SituationBeton, LesDonneesObligatoiresSontReclamees) {
   verifier_refus(beton("SITU FIN_SITU"),
@@ -736,16 +723,10 @@ TEST_F(SituationAcier, Refus) {
     SCOPED_TRACE(r.mots);
     verifier_refus(situation_acier(r.mots), r.lignes);
   }
-  verifier_refus(acier("SITU EXPL LONG"), mot_incorrect("LONG"));
-  verifier_refus(acier("SITU TITR 's' SEIS"), message("situation incorrectement definie"));
-  verifier_refus(
-      acier("SITU PARA"),
-      message("La Situation de projet doit etre renseignee avant de définir les parametres avances"_l1));
+  verifier_situation_d_abord(acier);
   verifier_refus(acier("SITU FIN_SITU"),
                  "     - La Situation de projet doit etre renseignee\n     - Titre: non renseigne(e)");
-  for (const std::string mots : {"EXPL SERV", "EXPL INFI", "CONS", "ACCI", "SEIS"})
-    verifier_refus(acier("SITU " + mots + " TITR 's' FIN_SITU SITU " + mots + " TITR 's' FIN_SITU"),
-                   message("Situation deja definie"));
+  verifier_situations_uniques(acier);
   verifier_refus(acier("FISS NON SITU EXPL SERV FISS QUAS 0.2"),
                  message(" Parametre fissuration interdit en l absence du critere fissuration simplifie"));
   for (const std::string mots : {"ACCI", "SEIS"})

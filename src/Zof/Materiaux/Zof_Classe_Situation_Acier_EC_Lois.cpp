@@ -11,17 +11,6 @@ using socle::texte;
 
 namespace {
 
-limites_acier loc_limites(const zof_situation_acier_ec& s, combinaison actions) {
-  switch (actions) {
-    case combinaison::quasi_permanente:
-      return {s.m_sigma_lim_traction_els_qp, s.m_sigma_lim_compression_els_qp};
-    case combinaison::frequente: return {s.m_sigma_lim_traction_els_fre, s.m_sigma_lim_compression_els_fre};
-    case combinaison::caracteristique:
-      return {s.m_sigma_lim_traction_els_car, s.m_sigma_lim_compression_els_car};
-  }
-  return {};
-}
-
 /// Bars take nothing out of the concrete around them.
 loi_acier loc_nouvelle_loi(zof_situation_acier_ec& s, const texte<32>& label_loi) {
   return {s.m_numero_materiau_qb7, s.ajouter_etat_limite(label_loi), s.m_pt_materiau->m_is_acier_confine,
@@ -55,7 +44,7 @@ void zof_situation_acier_ec::creer_lois_acier_lineaires_ec_els() {
   zof_assert(!est_situation_accidentelle(m_type_situation_projet),
              " Zof_Creer_Lois_acier_lineaires_EC_ELS:  Cas impossible");
   for (const etat_service& etat : zof_etats_service(m_type_situation_projet)) {
-    const limites_acier l = loc_limites(*this, etat.actions);
+    const limites_acier l = zof_limites_acier(*this, etat.actions);
     creer_loi_acier_lineaire_ec_els(l.traction, l.compression, etat.label);
   }
 }
@@ -64,14 +53,14 @@ void zof_situation_acier_ec::creer_lois_acier_lineaires_ec_els_non_fissuree() {
   zof_assert(!est_situation_accidentelle(m_type_situation_projet),
              " Creer_Lois_acier_lineaires_EC_ELS_non_fissuree:  Cas impossible");
   for (const etat_service& etat : zof_etats_service(m_type_situation_projet)) {
-    const limites_acier l = loc_limites(*this, etat.actions);
+    const limites_acier l = zof_limites_acier(*this, etat.actions);
     creer_loi_acier_lineaire_ec_els(l.traction, l.compression, etat.label_nf);
   }
 }
 
 void zof_situation_acier_ec::creer_lois_acier_bilineaires_ec_els() {
   for (const etat_service& etat : zof_etats_service(m_type_situation_projet)) {
-    const limites_acier l = loc_limites(*this, etat.actions);
+    const limites_acier l = zof_limites_acier(*this, etat.actions);
     creer_loi_acier_plastique_parfaite_ec_els(l.traction, l.compression, etat.label);
   }
 }
@@ -126,11 +115,9 @@ void zof_situation_acier_ec::creer_loi_acier_bilineaire_ec_elu(
     double limite_elasticite_garantie, double module_elasticite, double epsilon_rupture,
     double coefficient_contrainte_ultime, double coefficient_deformation_admissible,
     double coefficient_partiel, bool travail_en_compression, const texte<32>& label_loi) {
-  const diagramme_acier d = zof_diagramme_bilineaire(
-      limite_elasticite_garantie / coefficient_partiel,
-      coefficient_contrainte_ultime * limite_elasticite_garantie / coefficient_partiel, module_elasticite,
-      epsilon_rupture, coefficient_deformation_admissible * epsilon_rupture);
   loi_acier loi = loc_nouvelle_loi(*this, label_loi);
   loi.travail_en_compression = travail_en_compression;
-  zof_creer_loi_acier_bilineaire(loi, d);
+  zof_creer_loi_acier_bilineaire_elu(loi, limite_elasticite_garantie, module_elasticite, epsilon_rupture,
+                                     coefficient_contrainte_ultime, coefficient_deformation_admissible,
+                                     coefficient_partiel);
 }

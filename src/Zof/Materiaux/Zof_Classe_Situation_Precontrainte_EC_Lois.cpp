@@ -11,17 +11,6 @@ using socle::texte;
 
 namespace {
 
-limites_acier loc_limites(const zof_situation_precontrainte_ec& s, combinaison actions) {
-  switch (actions) {
-    case combinaison::quasi_permanente:
-      return {s.m_sigma_lim_traction_els_qp, s.m_sigma_lim_compression_els_qp};
-    case combinaison::frequente: return {s.m_sigma_lim_traction_els_fre, s.m_sigma_lim_compression_els_fre};
-    case combinaison::caracteristique:
-      return {s.m_sigma_lim_traction_els_car, s.m_sigma_lim_compression_els_car};
-  }
-  return {};
-}
-
 /// A tendon is tensioned before it follows the section: it unloads as well as it loads, and takes the place
 /// that its zone occupies out of the concrete.
 loi_acier loc_nouvelle_loi(zof_situation_precontrainte_ec& s, const texte<32>& label_loi) {
@@ -53,21 +42,21 @@ void zof_situation_precontrainte_ec::creer_lois_precontrainte_els_ec() {
 
 void zof_situation_precontrainte_ec::creer_lois_precontrainte_lineaires_ec_els() {
   for (const etat_service& etat : zof_etats_service(m_type_situation_projet)) {
-    const limites_acier l = loc_limites(*this, etat.actions);
+    const limites_acier l = zof_limites_acier(*this, etat.actions);
     creer_loi_precontrainte_lineaire_ec_els(l.traction, l.compression, etat.label);
   }
 }
 
 void zof_situation_precontrainte_ec::creer_lois_precontrainte_lineaires_ec_els_non_fissuree() {
   for (const etat_service& etat : zof_etats_service(m_type_situation_projet)) {
-    const limites_acier l = loc_limites(*this, etat.actions);
+    const limites_acier l = zof_limites_acier(*this, etat.actions);
     creer_loi_precontrainte_lineaire_ec_els(l.traction, l.compression, etat.label_nf);
   }
 }
 
 void zof_situation_precontrainte_ec::creer_lois_precontrainte_bilineaires_ec_els() {
   for (const etat_service& etat : zof_etats_service(m_type_situation_projet)) {
-    const limites_acier l = loc_limites(*this, etat.actions);
+    const limites_acier l = zof_limites_acier(*this, etat.actions);
     creer_loi_precontrainte_plastique_parfaite_ec_els(l.traction, l.compression, etat.label);
   }
 }
@@ -112,13 +101,11 @@ void zof_situation_precontrainte_ec::creer_loi_precontrainte_bilineaire_ec_elu(
     double limite_elasticite_garantie, double module_elasticite, double epsilon_rupture,
     double coefficient_contrainte_ultime, double coefficient_deformation_admissible,
     double coefficient_partiel, bool travail_en_compression, const texte<32>& label_loi) {
-  const diagramme_acier d = zof_diagramme_bilineaire(
-      limite_elasticite_garantie / coefficient_partiel,
-      coefficient_contrainte_ultime * limite_elasticite_garantie / coefficient_partiel, module_elasticite,
-      epsilon_rupture, coefficient_deformation_admissible * epsilon_rupture);
   loi_acier loi = loc_nouvelle_loi(*this, label_loi);
   loi.travail_en_compression = travail_en_compression;
-  zof_creer_loi_acier_bilineaire(loi, d);
+  zof_creer_loi_acier_bilineaire_elu(loi, limite_elasticite_garantie, module_elasticite, epsilon_rupture,
+                                     coefficient_contrainte_ultime, coefficient_deformation_admissible,
+                                     coefficient_partiel);
 }
 
 /// The horizontal branch of EN 1992-1-1 figure 3.10 needs no strain limit: the law is told to have none, and

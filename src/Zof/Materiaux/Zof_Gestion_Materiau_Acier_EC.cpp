@@ -91,8 +91,7 @@ void loc_finir_materiau(lecture_acier& l, bool& erco) {
   zof_assert_renseigne_chaine(l.titre, "Titre", erco);
   zof_assert_renseigne_double(l.fyk, "FYK", erco);
   if (erco) return;
-  for (const int type : ordre_situations_par_defaut)
-    if (!l.materiau.existe_type_situation_materiau(type)) l.materiau.creer_situation_acier(type);
+  zof_creer_situations_absentes(l.materiau, &zof_materiau_acier_ec::creer_situation_acier);
 }
 
 }  // namespace
@@ -108,10 +107,7 @@ void zof_decoder_materiau_acier_ec(zof_materiau_acier_ec& materiau, bool& erco) 
   texte<4> mot;
   for (and_lire_deb_nom(mot, 4, erco); !erco; and_lire_deb_nom(mot, 4, erco)) {
     switch (clef(mot)) {
-      case "TITR"_mot:
-        zof_lire_titre_unique(l.titre, erco);
-        if (!erco) materiau.set_titre_materiau(l.titre);
-        break;
+      case "TITR"_mot: zof_lire_titre_materiau(materiau, l.titre, erco); break;
       case "FYK"_mot: loc_lire_fyk(l, erco); break;
       case "TYPE"_mot: loc_lire_type(l, erco); break;
       case "SECT"_mot: loc_lire_section(l, erco); break;
@@ -134,9 +130,7 @@ void zof_creer_situation_acier(zof_materiau_acier_ec& materiau, int type_situati
   s.set_type_situation_projet(type_situation);
   s.fixer_parametres_defaut_situation();
   s.affectation_coefficents_ec();
-  const texte<32> label = zof_conversion_en_label_situation(type_situation);
-  s.set_titre_situation(label.entier());
-  s.set_label_situation(label);
+  zof_intituler_situation_par_defaut(s);
   s.creer_lois();
   materiau.m_les_situations.depointer_dernier();
 }

@@ -29,8 +29,7 @@ void zof_editer_materiau_acier_ec(const zof_materiau_acier_ec& m, bool& erco) {
       {"Classe Exposition     : ",
        std::string(zof_par_classe_exposition[socle::indice(m.m_classe_exposition)].utile())},
   });
-  for (const zof_situation_materiau& situation : uef_parcours<zof_situation_materiau>(m.m_les_situations))
-    situation.editer_situation(erco);
+  zof_editer_situations(m, erco);
 }
 
 void zof_editer_situation_acier_ec(const zof_situation_acier_ec& s, bool&) {

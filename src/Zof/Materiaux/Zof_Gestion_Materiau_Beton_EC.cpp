@@ -118,8 +118,7 @@ void loc_finir_materiau(lecture_beton& l, bool& erco) {
   zof_assert_renseigne_double(l.fck, "FCK", erco);
   zof_assert_renseigne_integer(l.materiau.get_type_materiau(), "PRECONTRAINT", erco);
   if (erco) return;
-  for (const int type : ordre_situations_par_defaut)
-    if (!l.materiau.existe_type_situation_materiau(type)) l.materiau.creer_situation_beton(type);
+  zof_creer_situations_absentes(l.materiau, &zof_materiau_beton_ec::creer_situation_beton);
 }
 
 }  // namespace
@@ -135,10 +134,7 @@ void zof_decoder_materiau_beton_ec(zof_materiau_beton_ec& materiau, bool& erco) 
   texte<4> mot;
   for (and_lire_deb_nom(mot, 4, erco); !erco; and_lire_deb_nom(mot, 4, erco)) {
     switch (clef(mot)) {
-      case "TITR"_mot:
-        zof_lire_titre_unique(l.titre, erco);
-        if (!erco) materiau.set_titre_materiau(l.titre);
-        break;
+      case "TITR"_mot: zof_lire_titre_materiau(materiau, l.titre, erco); break;
       case "FCK"_mot: loc_lire_fck(l, erco); break;
       case "HUMI"_mot: loc_lire_humidite(l, erco); break;
       case "RAYO"_mot: loc_lire_rayon(l, erco); break;
@@ -161,9 +157,7 @@ void zof_creer_situation_beton(zof_materiau_beton_ec& materiau, int type_situati
   s.creer_beton_situation_ec();
   s.affectation_coefficents_ec();
   s.assigner_deformations();
-  const texte<32> label = zof_conversion_en_label_situation(type_situation);
-  s.set_titre_situation(label.entier());
-  s.set_label_situation(label);
+  zof_intituler_situation_par_defaut(s);
   s.creer_lois();
   materiau.m_les_situations.depointer_dernier();
 }

@@ -40,8 +40,7 @@ void zof_editer_materiau_beton_ec(const zof_materiau_beton_ec& m, bool& erco) {
       zof_ligne_oui_non("Fat. sim. tra: ", m.m_is_critere_fatigue_simplifie_trac),
       zof_ligne_oui_non("Fat. sim. com: ", m.m_is_critere_fatigue_simplifie_comp),
   });
-  for (const zof_situation_materiau& situation : uef_parcours<zof_situation_materiau>(m.m_les_situations))
-    situation.editer_situation(erco);
+  zof_editer_situations(m, erco);
 }
 
 void zof_editer_situation_beton_ec(const zof_situation_beton_ec& s, bool&) {

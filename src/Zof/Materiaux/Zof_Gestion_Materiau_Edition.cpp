@@ -39,6 +39,12 @@ void zof_editer_titre_materiau(const zof_materiau& materiau) {
                       2);
 }
 
+void zof_editer_situations(const zof_materiau& materiau, bool& erco) {
+  for (const zof_situation_materiau& situation :
+       uef_parcours<zof_situation_materiau>(materiau.m_les_situations))
+    situation.editer_situation(erco);
+}
+
 void zof_editer_titre_situation(const zof_situation_materiau& situation) {
   utl_02_ecrire_titre(concat({"Situation : ", situation.get_label_situation().utile()}), 3);
 }

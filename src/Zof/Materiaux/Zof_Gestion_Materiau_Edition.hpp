@@ -12,6 +12,9 @@
 /// Title of level 2: the material's name and title.
 void zof_editer_titre_materiau(const zof_materiau& materiau);
 
+/// The reports of the material's situations, in their order.
+void zof_editer_situations(const zof_materiau& materiau, bool& erco);
+
 /// Title of level 3: the situation's label.
 void zof_editer_titre_situation(const zof_situation_materiau& situation);
 

@@ -5,6 +5,7 @@
 // Every keyword of a block may stand once. A decoder keeps a copy of each datum that starts as not given: the
 // fields themselves have defaults and can't tell.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <initializer_list>
@@ -13,6 +14,8 @@
 
 #include "Texte.hpp"
 #include "Zof_Classe_Materiau.hpp"
+#include "Zof_Erreurs.hpp"
+#include "Zof_Utilit.hpp"
 
 /// A word and the value that it stands for.
 struct choix {
@@ -33,6 +36,10 @@ bool zof_lire_oui_non(bool& erco);
 void zof_lire_reel_unique(socle::vue_l1 mot, double& copie, bool& erco);
 void zof_lire_choix_unique(socle::vue_l1 mot, std::initializer_list<choix> les_choix, int& copie, bool& erco);
 void zof_lire_titre_unique(socle::texte<80>& copie, bool& erco);
+
+/// The same title, given to the material or to the situation.
+void zof_lire_titre_materiau(zof_materiau& materiau, socle::texte<80>& copie, bool& erco);
+void zof_lire_titre_situation(zof_situation_materiau& situation, socle::texte<80>& copie, bool& erco);
 
 /// Kind of the situation that begins with this word (EXPL, then INFI or SERV; CONS; ACCI; SEIS): it must be
 /// the first word of its block, and new to the material. 0 where it is refused.
@@ -66,6 +73,23 @@ inline constexpr std::array<int, nombre_situations_projet> ordre_situations_par_
     situation_exploitation_service, situation_exploitation_infinie, situation_construction, situation_seisme,
     situation_accident};
 
+/// Makes the situations that the data left out, with the material's own operation.
+template <class materiau>
+void zof_creer_situations_absentes(materiau& m, void (materiau::*creer_situation)(int)) {
+  for (const int type : ordre_situations_par_defaut)
+    if (!m.existe_type_situation_materiau(type)) (m.*creer_situation)(type);
+}
+
+/// The situation's kind as its title and its label.
+void zof_intituler_situation_par_defaut(zof_situation_materiau& situation);
+
+/// The block of the situation has told its kind.
+bool zof_situation_choisie(const zof_situation_materiau& situation);
+
+/// The kinds of laws of a steel, each given once: BILI or PARF after ELU, LINE or BILI after ELS.
+void zof_lire_type_loi_elu_acier(int& copie, int& type_loi_elu, bool& erco);
+void zof_lire_type_loi_els_acier(int& copie, int& type_loi_els, bool& erco);
+
 /// The words of an entry of a block PARA: four, or one that stands alone.
 struct clef_para {
   std::array<socle::texte<4>, 4> mots;
@@ -79,6 +103,9 @@ bool zof_lire_clef_para(std::string_view mot_seul, clef_para& lue, bool& erco);
 /// Reads the entry's value, which is not negative.
 double zof_lire_valeur_para(const clef_para& lue, bool& erco);
 
+/// The block PARA stands behind the kind of its situation.
+void zof_controler_situation_avant_para(const zof_situation_materiau& situation, bool& erco);
+
 /// Refuses a key that the block does not know.
 void zof_refuser_clef_para(const clef_para& lue, bool& erco);
 
@@ -91,11 +118,52 @@ struct entree_para {
   double situation::*champ;
 };
 
-/// Rank (from 0) of the entry in the table; a key that is not in it is refused, and gives -1.
+/// Rank (from 0) of the entry in the table. A key that is not in it is refused, and so is one whose value
+/// `copies` holds already: both give -1.
 template <class entree>
-int zof_rang_entree_para(const clef_para& lue, std::span<const entree> entrees, bool& erco) {
-  for (std::size_t i = 0; i < entrees.size(); ++i)
-    if (lue.clef == socle::vue_l1(entrees[i].clef)) return static_cast<int>(i);
+int zof_rang_entree_para(const clef_para& lue, std::span<const entree> entrees,
+                         std::span<const double> copies, bool& erco) {
+  for (std::size_t i = 0; i < entrees.size(); ++i) {
+    if (lue.clef != socle::vue_l1(entrees[i].clef)) continue;
+    zof_non_repetition_double(entrees[i].nom, copies[i], erco);
+    return erco ? -1 : static_cast<int>(i);
+  }
   zof_refuser_clef_para(lue, erco);
   return -1;
 }
+
+/// The entry belongs to the laws of service: its second word is ELS.
+bool zof_est_para_de_service(const clef_para& lue);
+
+/// The block PARA of a steel: the stress limits of service are given in parts of its characteristic strength
+/// (MPa). The values as they are given go to `copies`.
+template <class situation>
+void zof_lire_parametres_acier(situation& s, std::span<const entree_para<situation>> entrees,
+                               double resistance, std::span<double> copies, bool& erco) {
+  zof_controler_situation_avant_para(s, erco);
+  if (erco) return;
+  clef_para lue;
+  while (zof_lire_clef_para("MODU", lue, erco)) {
+    const double valeur = zof_lire_valeur_para(lue, erco);
+    if (erco) return;
+    const int rang = zof_rang_entree_para(lue, entrees, copies, erco);
+    if (erco) return;
+    if (rang < 0) continue;
+    const auto i = static_cast<std::size_t>(rang);
+    copies[i] = valeur;
+    s.*entrees[i].champ = zof_est_para_de_service(lue) ? valeur * resistance : valeur;
+  }
+}
+
+/// One at least of the entries of these names was given.
+template <class entree>
+bool zof_parametre_lu(std::span<const entree> entrees, std::span<const double> copies,
+                      std::initializer_list<std::string_view> noms) {
+  for (std::size_t i = 0; i < entrees.size(); ++i)
+    if (est_renseigne_double(copies[i]) && std::ranges::find(noms, entrees[i].nom) != noms.end()) return true;
+  return false;
+}
+
+/// Parameters of an ultimate law of steel, bilinear or perfectly plastic, that the situation does not use are
+/// refused.
+void zof_controler_loi_elu_acier(int type_loi_elu, int type_loi_des_parametres, bool& erco);

@@ -87,3 +87,15 @@ void zof_creer_loi_acier_bilineaire(const loi_acier& loi, const diagramme_acier&
                                                  d.f_palier, d.epsilon_rupture, d.f_rupture, true, -d.f_lim,
                                                  d.f_lim, loi.travail_en_compression, loi.type_trou));
 }
+
+void zof_creer_loi_acier_bilineaire_elu(const loi_acier& loi, double limite_elasticite_garantie,
+                                        double module_elasticite, double epsilon_rupture,
+                                        double coefficient_contrainte_ultime,
+                                        double coefficient_deformation_admissible,
+                                        double coefficient_partiel) {
+  zof_creer_loi_acier_bilineaire(
+      loi, zof_diagramme_bilineaire(
+               limite_elasticite_garantie / coefficient_partiel,
+               coefficient_contrainte_ultime * limite_elasticite_garantie / coefficient_partiel,
+               module_elasticite, epsilon_rupture, coefficient_deformation_admissible * epsilon_rupture));
+}

@@ -40,6 +40,19 @@ struct limites_acier {
   double compression = socle::non_renseigne;
 };
 
+/// Limits of the stress of a steel under this combination.
+template <class situation>
+limites_acier zof_limites_acier(const situation& s, combinaison actions) {
+  switch (actions) {
+    case combinaison::quasi_permanente:
+      return {s.m_sigma_lim_traction_els_qp, s.m_sigma_lim_compression_els_qp};
+    case combinaison::frequente: return {s.m_sigma_lim_traction_els_fre, s.m_sigma_lim_compression_els_fre};
+    case combinaison::caracteristique:
+      return {s.m_sigma_lim_traction_els_car, s.m_sigma_lim_compression_els_car};
+  }
+  return {};
+}
+
 /// The law's place in the engine, and how its zones count in what surrounds them.
 struct loi_acier {
   int num_materiau, num_etat_lim;
@@ -66,3 +79,11 @@ diagramme_acier zof_diagramme_bilineaire(double f_palier, double f_rupture, doub
                                          double epsilon_rupture, double epsilon_admissible);
 
 void zof_creer_loi_acier_bilineaire(const loi_acier& loi, const diagramme_acier& d);
+
+/// The same from the characteristic yield stress, the ratio of the ultimate stress to it, the part of the
+/// ultimate strain that is admissible, and the partial factor of both stresses.
+void zof_creer_loi_acier_bilineaire_elu(const loi_acier& loi, double limite_elasticite_garantie,
+                                        double module_elasticite, double epsilon_rupture,
+                                        double coefficient_contrainte_ultime,
+                                        double coefficient_deformation_admissible,
+                                        double coefficient_partiel);

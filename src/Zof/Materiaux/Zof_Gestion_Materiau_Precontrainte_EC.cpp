@@ -48,8 +48,7 @@ void loc_finir_materiau(lecture_precontrainte& l, bool& erco) {
   if (erco) return;
   zof_assert_commande(l.fp0_1k < l.fpk, "fp0_1k >= Fpk ", erco);
   if (erco) return;
-  for (const int type : ordre_situations_par_defaut)
-    if (!l.materiau.existe_type_situation_materiau(type)) l.materiau.creer_situation_precontrainte(type);
+  zof_creer_situations_absentes(l.materiau, &zof_materiau_precontrainte_ec::creer_situation_precontrainte);
 }
 
 }  // namespace
@@ -72,10 +71,7 @@ void zof_decoder_materiau_precontrainte_ec(zof_materiau_precontrainte_ec& materi
   texte<4> mot;
   for (and_lire_deb_nom(mot, 4, erco); !erco; and_lire_deb_nom(mot, 4, erco)) {
     switch (clef(mot)) {
-      case "TITR"_mot:
-        zof_lire_titre_unique(l.titre, erco);
-        if (!erco) materiau.set_titre_materiau(l.titre);
-        break;
+      case "TITR"_mot: zof_lire_titre_materiau(materiau, l.titre, erco); break;
       case "FP01"_mot:
         loc_lire_resistance("FP01", " Attribut Fp0_1K incorrect : <=0 ", l.fp0_1k, materiau.m_fp0_1k, erco);
         break;
@@ -95,9 +91,7 @@ void zof_creer_situation_precontrainte(zof_materiau_precontrainte_ec& materiau, 
   zof_situation_precontrainte_ec& s = zof_ajouter_situation<zof_situation_precontrainte_ec>(materiau);
   s.set_type_situation_projet(type_situation);
   s.affectation_coefficents_ec();
-  const texte<32> label = zof_conversion_en_label_situation(type_situation);
-  s.set_titre_situation(label.entier());
-  s.set_label_situation(label);
+  zof_intituler_situation_par_defaut(s);
   s.creer_lois();
   materiau.m_les_situations.depointer_dernier();
 }

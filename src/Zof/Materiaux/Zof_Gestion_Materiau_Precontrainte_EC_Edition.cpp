@@ -18,8 +18,7 @@ void zof_editer_materiau_precontrainte_ec(const zof_materiau_precontrainte_ec& m
       zof_ligne_double("Fpk          : ", m.m_fpk),
       {"Type         : ", std::string(produits[socle::indice(m.m_type_precontrainte)])},
   });
-  for (const zof_situation_materiau& situation : uef_parcours<zof_situation_materiau>(m.m_les_situations))
-    situation.editer_situation(erco);
+  zof_editer_situations(m, erco);
 }
 
 void zof_editer_situation_precontrainte_ec(const zof_situation_precontrainte_ec& s, bool&) {

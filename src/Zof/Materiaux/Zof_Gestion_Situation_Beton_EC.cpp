@@ -6,7 +6,6 @@
 #include "Zof_Gestion_Materiau_Beton_EC.hpp"
 #include "Zof_Gestion_Materiau_Lecture.hpp"
 #include "Zof_Options.hpp"
-#include "Zof_Utilit.hpp"
 #include "Zof_Utilitaires.hpp"
 
 using namespace socle;
@@ -52,8 +51,6 @@ struct lecture_situation {
 
   explicit lecture_situation(situation& s_lue) : s(s_lue) { parametres.fill(non_renseigne); }
 };
-
-bool loc_situation_choisie(const situation& s) { return est_renseigne_integer(s.m_type_situation_projet); }
 
 void loc_choisir_situation(lecture_situation& l, const texte<4>& mot, bool& erco) {
   const int type = zof_lire_situation(mot, l.premier_mot, *l.s.m_pt_materiau, erco);
@@ -118,11 +115,9 @@ void loc_controler_type_loi(const situation& s, const clef_para& lue, bool& erco
 }
 
 void loc_affecter_parametre(lecture_situation& l, const clef_para& lue, double valeur, bool& erco) {
-  const int rang = zof_rang_entree_para<entree>(lue, entrees_para, erco);
+  const int rang = zof_rang_entree_para<entree>(lue, entrees_para, l.parametres, erco);
   if (rang < 0) return;
   const auto i = static_cast<std::size_t>(rang);
-  zof_non_repetition_double(entrees_para[i].nom, l.parametres[i], erco);
-  if (erco) return;
   if (clef(lue.mots[3]) == "ENRO"_mot)
     zof_assert_commande(l.s.m_pt_materiau->m_is_beton_precontraint,
                         "Attribut ENROBAGE incorrect pour un béton non précontraint"_l1, erco);
@@ -135,9 +130,7 @@ void loc_affecter_parametre(lecture_situation& l, const clef_para& lue, double v
 }
 
 void loc_lire_parametres(lecture_situation& l, bool& erco) {
-  zof_assert_commande(
-      loc_situation_choisie(l.s),
-      "La Situation de projet doit etre renseignee avant de définir les parametres avances"_l1, erco);
+  zof_controler_situation_avant_para(l.s, erco);
   if (erco) return;
   l.parametres_lus = true;
   clef_para lue;
@@ -153,7 +146,7 @@ void loc_lire_parametres(lecture_situation& l, bool& erco) {
 
 void loc_finir_situation(lecture_situation& l, bool& erco) {
   zof_controle_mot_fin("FIN_SITU");
-  zof_assert_commande(loc_situation_choisie(l.s), "la Situation de projet doit etre renseignee", erco);
+  zof_assert_commande(zof_situation_choisie(l.s), "la Situation de projet doit etre renseignee", erco);
   zof_assert_renseigne_chaine(l.titre, "Titre", erco);
   if (erco) return;
   l.s.assigner_deformations();
@@ -172,10 +165,7 @@ void zof_decoder_situation_beton_ec(zof_situation_beton_ec& situation_lue, bool&
       case "CONS"_mot:
       case "ACCI"_mot:
       case "SEIS"_mot: loc_choisir_situation(l, mot, erco); break;
-      case "TITR"_mot:
-        zof_lire_titre_unique(l.titre, erco);
-        if (!erco) situation_lue.set_titre_situation(l.titre);
-        break;
+      case "TITR"_mot: zof_lire_titre_situation(situation_lue, l.titre, erco); break;
       case "POND"_mot: loc_lire_ponderation(l, erco); break;
       case "ELU"_mot: loc_lire_type_loi_elu(l, erco); break;
       case "ELS"_mot: loc_lire_type_loi_els(l, erco); break;

@@ -1,13 +1,12 @@
 // The situation block of a prestressing steel.
-#include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <string_view>
 
 #include "And_anadon.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau_Lecture.hpp"
 #include "Zof_Gestion_Materiau_Precontrainte_EC.hpp"
-#include "Zof_Utilit.hpp"
 #include "Zof_Utilitaires.hpp"
 
 using namespace socle;
@@ -44,16 +43,10 @@ struct lecture_situation {
 
   explicit lecture_situation(situation& s_lue) : s(s_lue) { parametres.fill(non_renseigne); }
 
-  /// One of these entries at least was given.
   [[nodiscard]] bool parametre_lu(std::initializer_list<std::string_view> noms) const {
-    for (std::size_t i = 0; i < entrees_para.size(); ++i)
-      if (est_renseigne_double(parametres[i]) && std::ranges::find(noms, entrees_para[i].nom) != noms.end())
-        return true;
-    return false;
+    return zof_parametre_lu<entree>(entrees_para, parametres, noms);
   }
 };
-
-bool loc_situation_choisie(const situation& s) { return est_renseigne_integer(s.m_type_situation_projet); }
 
 void loc_choisir_situation(lecture_situation& l, const texte<4>& mot, bool& erco) {
   const int type = zof_lire_situation(mot, l.premier_mot, *l.s.m_pt_materiau, erco);
@@ -63,58 +56,18 @@ void loc_choisir_situation(lecture_situation& l, const texte<4>& mot, bool& erco
   l.s.set_label_situation(zof_conversion_en_label_situation(type));
 }
 
-void loc_lire_type_loi_elu(lecture_situation& l, bool& erco) {
-  zof_lire_choix_unique("ELU", {{"BILI"_mot, type_loi_bilineaire}, {"PARF"_mot, type_loi_plastique_parfaite}},
-                        l.type_loi_elu, erco);
-  if (!erco) l.s.m_type_loi_elu = l.type_loi_elu;
-}
-
-void loc_lire_type_loi_els(lecture_situation& l, bool& erco) {
-  zof_lire_choix_unique("ELS", {{"LINE"_mot, type_loi_lineaire}, {"BILI"_mot, type_loi_bilineaire}},
-                        l.type_loi_els, erco);
-  if (!erco) l.s.m_type_loi_els = l.type_loi_els;
-}
-
-void loc_affecter_parametre(lecture_situation& l, const clef_para& lue, double valeur, bool& erco) {
-  const int rang = zof_rang_entree_para<entree>(lue, entrees_para, erco);
-  if (rang < 0) return;
-  const auto i = static_cast<std::size_t>(rang);
-  zof_non_repetition_double(entrees_para[i].nom, l.parametres[i], erco);
-  if (erco) return;
-  l.parametres[i] = valeur;
-  // The limits of service are given in parts of fp0.1k.
-  const bool limite_de_service = clef(lue.mots[1]) == "ELS"_mot;
-  l.s.*entrees_para[i].champ = limite_de_service ? valeur * l.s.m_pt_materiau->m_fp0_1k : valeur;
-}
-
-void loc_lire_parametres(lecture_situation& l, bool& erco) {
-  zof_assert_commande(
-      loc_situation_choisie(l.s),
-      "La Situation de projet doit etre renseignee avant de définir les parametres avances"_l1, erco);
-  if (erco) return;
-  clef_para lue;
-  while (zof_lire_clef_para("MODU", lue, erco)) {
-    const double valeur = zof_lire_valeur_para(lue, erco);
-    if (erco) return;
-    loc_affecter_parametre(l, lue, valeur, erco);
-    if (erco) return;
-  }
-}
-
 /// Parameters of a law that the situation does not use are refused.
 void loc_controler_parametres(const lecture_situation& l, bool& erco) {
   if (l.parametre_lu({"COEF_ELU_PARF_PART", "CONT_ELU_PARF_TRAC", "CONT_ELU_PARF_COMP"}))
-    zof_assert_commande(l.s.m_type_loi_elu == type_loi_plastique_parfaite,
-                        " incompatibilite avec le type de loi ELU  :  BILINEAIRE", erco);
+    zof_controler_loi_elu_acier(l.s.m_type_loi_elu, type_loi_plastique_parfaite, erco);
   if (l.parametre_lu(
           {"DEFO_ELU_BILI_RUPT", "COEF_ELU_BILI_DEFO", "COEF_ELU_BILI_CONT", "COEF_ELU_BILI_PART"}))
-    zof_assert_commande(l.s.m_type_loi_elu == type_loi_bilineaire,
-                        "incompatibilite avec le type de loi ELU  : PARFAITE", erco);
+    zof_controler_loi_elu_acier(l.s.m_type_loi_elu, type_loi_bilineaire, erco);
 }
 
 void loc_finir_situation(lecture_situation& l, bool& erco) {
   zof_controle_mot_fin("FIN_SITU");
-  zof_assert_commande(loc_situation_choisie(l.s), "La Situation de projet doit etre renseignee ", erco);
+  zof_assert_commande(zof_situation_choisie(l.s), "La Situation de projet doit etre renseignee ", erco);
   zof_assert_renseigne_chaine(l.titre, "Titre", erco);
   loc_controler_parametres(l, erco);
   if (!erco) l.s.creer_lois();
@@ -131,13 +84,13 @@ void zof_decoder_situation_precontrainte_ec(zof_situation_precontrainte_ec& situ
       case "CONS"_mot:
       case "ACCI"_mot:
       case "SEIS"_mot: loc_choisir_situation(l, mot, erco); break;
-      case "TITR"_mot:
-        zof_lire_titre_unique(l.titre, erco);
-        if (!erco) situation_lue.set_titre_situation(l.titre);
+      case "TITR"_mot: zof_lire_titre_situation(situation_lue, l.titre, erco); break;
+      case "ELU"_mot: zof_lire_type_loi_elu_acier(l.type_loi_elu, situation_lue.m_type_loi_elu, erco); break;
+      case "ELS"_mot: zof_lire_type_loi_els_acier(l.type_loi_els, situation_lue.m_type_loi_els, erco); break;
+      case "PARA"_mot:
+        zof_lire_parametres_acier<situation>(situation_lue, entrees_para,
+                                             situation_lue.m_pt_materiau->m_fp0_1k, l.parametres, erco);
         break;
-      case "ELU"_mot: loc_lire_type_loi_elu(l, erco); break;
-      case "ELS"_mot: loc_lire_type_loi_els(l, erco); break;
-      case "PARA"_mot: loc_lire_parametres(l, erco); break;
       case "FIN_"_mot: loc_finir_situation(l, erco); return;
       default: zof_attribut_incorrect(mot, erco);
     }
