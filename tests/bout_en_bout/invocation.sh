@@ -41,12 +41,20 @@ cas 'a listing that is a directory' 1 'ERREUR : ouverture du fichier des Erreurs
 cas 'a text note that is a directory' 1 'ERREUR : ouverture du fichier NDC texte impossible' txt/a.zof
 cas 'an HTML note that is a directory' 1 'ERREUR : ouverture du fichier NDC html impossible' html/a.zof
 
-if [ "$(id -u)" -ne 0 ]; then
-  mkdir fige && cp a.zof fige && chmod 555 fige
-  cas 'a read-only folder' 1 'ERREUR : ouverture du fichier des Erreurs impossible' fige/a.zof
-  cp a.zof ferme.zof && chmod 000 ferme.zof
-  cas 'an unreadable file' 1 "ouverture du fichier de donn${e_aigu}es impossible:ferme.zof" ferme.zof
+# Permissions bind everybody but root: as root, the program runs as nobody, from a place that nobody reaches.
+chmod 755 "$sortie"
+mkdir fige && cp a.zof fige && chmod 555 fige
+cp a.zof ferme.zof && chmod 000 ferme.zof
+programme=$zof
+if [ "$(id -u)" -eq 0 ]; then
+  cp "$zof" zof_de_tous && chmod 755 zof_de_tous
+  printf '#!/bin/sh\nexec setpriv --reuid=65534 --regid=65534 --clear-groups "%s/zof_de_tous" "$@"\n' "$sortie" >en_personne
+  chmod 755 en_personne
+  zof=$sortie/en_personne
 fi
+cas 'a read-only folder' 1 'ERREUR : ouverture du fichier des Erreurs impossible' fige/a.zof
+cas 'an unreadable file' 1 "ouverture du fichier de donn${e_aigu}es impossible:ferme.zof" ferme.zof
+zof=$programme
 
 # A full disk: the run ends with 1 and one line that names the file.
 if [ -e /dev/full ]; then
