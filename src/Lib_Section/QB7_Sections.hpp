@@ -277,3 +277,23 @@ ier_2 qb7_solliciter_section(bool bornes, int num_section, int num_etat_lim, con
 ier_2 qb7_effort_resistant_limite(bool bornes, int num_section, int num_etat_lim,
                                   const efforts& efforts_section, const efforts& delta_efforts, double k_min,
                                   double k_max, double& k);
+
+// ---- Design ----
+
+/// Least steel with which the section carries every loading: the fill coefficients of the zones that are
+/// dimensionnable, in their c_remplissage. A loading is a limit state, a state of the section
+/// (qb7_etat_du_dimensionnement: the section as it stands) and forces in the frame of that state; limits of
+/// strain are judged at the critical points. Activity, frame and planes of the zones come back as they were.
+///
+/// opt_choix_base_pref says where each linear programme starts: 1 or 2 from the steel of the step before with
+/// equilibrium as its active rows, anything else from no hint. The steel is the same; 1 is the quickest.
+///
+/// Success has for detail the method that found the steel: 1 the plain iteration, 2 the one with a line
+/// search, 0 when no law has a limit, so that nothing bounds the section (every coefficient is then 0.01).
+/// Failures: ERR_DIM_TAB (number of loadings): sizes that differ; ERR_SURFACE_ZONE (zone): a zone to be
+/// designed has no area in any loading. Two are results and do not end a run: ERR_DIM_ACIERS (rank of the
+/// loading): no quantity of steel carries it; ERR_ECHEC_OPTIM: the steel that was reached stays in the zones,
+/// not optimal and perhaps short of what is needed.
+ier_2 qb7_dimensionner(int num_section, std::span<const int> tab_num_etat_lim,
+                       std::span<const int> tab_num_etat, std::span<const efforts> tab_efforts,
+                       std::optional<int> opt_choix_base_pref = {});

@@ -143,6 +143,8 @@ inline constexpr int qb7_sans_mere = -33554430;  ///< num_zone_mere of a zone at
 inline constexpr int qb7_sans_materiau =
     -33554428;  ///< num_materiau of a zone that is only a hole in its mother
 inline constexpr int qb7_etat_mecanique = -33554416;  ///< num_etat_lim of geometric results: stress = strain
+inline constexpr int qb7_etat_du_dimensionnement =
+    -33554424;  ///< state of a section as it stands when a design begins; it exists during the design alone
 inline constexpr double qb7_sans_borne = 33554432.0;  ///< epsilon_min or epsilon_max without limit, 2^25
 
 /// Coefficients of 1, e, e², e³, with e the strain itself: never a strain measured from the interval's end.

@@ -8,6 +8,7 @@
 // round.
 static_assert(qb7_indefini == -33554432 && qb7_sans_mere == -33554430 && qb7_sans_materiau == -33554428);
 static_assert(qb7_etat_mecanique == -33554416 && qb7_sans_borne == 33554432.0);
+static_assert(qb7_etat_du_dimensionnement == -33554424);
 static_assert(qb7_zone_vide == 1000 && qb7_zone_contour == 1001 && qb7_zone_sous_contour == 1002);
 static_assert(qb7_zone_profil == 1003 && qb7_zone_semis == 1004);
 static_assert(qb7_trou_encombrement == 2000 && qb7_trou_matiere == 2001 && qb7_trou_rien == 2002);
