@@ -16,8 +16,6 @@ void qb7_efforts_reinitialiser() { qb7_efforts = {}; }
 
 namespace {
 
-zone_loc_type& loc_zone(int rang_zone) { return eff_zones()[static_cast<std::size_t>(rang_zone - 1)]; }
-
 // ---- Building the table ----
 
 /// Room for one more zone, as a new record would be but for the memory that it keeps.
@@ -135,7 +133,8 @@ ier_2 loc_liste_filles() {
   }
   for (const zone_loc_type& mere : zones) {
     for (const int rang : mere.tab_rangs_filles) {
-      if (!loc_paire_permise(mere, loc_zone(rang))) return {ERR_TYPE_MERE, loc_zone(rang).num_zone};
+      if (!loc_paire_permise(mere, eff_zone_de_rang(rang)))
+        return {ERR_TYPE_MERE, eff_zone_de_rang(rang).num_zone};
     }
   }
   return {};
@@ -148,91 +147,14 @@ ier_2 loc_zones_calcul(gbd_section& section, int num_etat_lim) {
   return {};
 }
 
-// ---- Forces of a zone ----
-
-/// The law and the plane under which a zone is integrated, and the holes in it with it.
-contexte_zone loc_contexte(const zone_loc_type& zone_loc, const deformation& deform_section) {
-  deformation plan = zone_loc.deform_zone;
-  if (zone_loc.type_deform == qb7_deform_cumulee) plan += deform_section;
-  return {{zone_loc.loi.epsilons, zone_loc.loi.coeffs, zone_loc.degre_loi}, plan};
-}
-
 bool loc_est_contour(const zone_loc_type& zone_loc) {
   return zone_loc.type_zone == qb7_zone_contour || zone_loc.type_zone == qb7_zone_sous_contour;
-}
-
-double loc_param_surface(const zone_loc_type& zone_loc, bool matiere) {
-  if (loc_est_contour(zone_loc)) return 1;
-  return matiere ? zone_loc.p_matiere : zone_loc.p_encombrement;
 }
 
 void loc_tracer_matrice(socle::sortie& trace, std::string_view forme, const rigidite& k) {
   std::string ligne = socle::concat({"          Matrice ", forme});
   for (const double x : {k.a1, k.a2, k.b2, k.a3, k.b3, k.c3}) ligne += socle::edite(socle::E{16, 8}, x);
   trace.ligne(ligne);
-}
-
-/// Forces of the zone's own outline, profile or bars under a law and a plane that may be those of its mother.
-resultante loc_efforts(const zone_loc_type& zone_loc, const contexte_zone& ctx, bool matiere,
-                       bool avec_tangente) {
-  const double param_surface = loc_param_surface(zone_loc, matiere);
-  if (param_surface == 0) return {};
-  switch (zone_loc.type_zone) {
-    case qb7_zone_profil: return int_efforts_profil(ctx, zone_loc.yz_points, param_surface, avec_tangente);
-    case qb7_zone_semis: return int_efforts_semis(ctx, zone_loc.yz_points, param_surface, avec_tangente);
-    default: return int_efforts_contour(ctx, zone_loc.yz_points, avec_tangente);
-  }
-}
-
-/// What a daughter with a fill coefficient takes out of its mother: it and its own daughters are measured by
-/// `mesurer`, as forces or as an area.
-template <class mesure>
-auto loc_part_de_fille(const zone_loc_type& fille, double c_remplissage, const mesure& mesurer)
-    -> decltype(mesurer(fille)) {
-  const auto f = mesurer(fille);
-  if (fille.type_zone == qb7_zone_contour) return f;
-  if (fille.type_zone != qb7_zone_sous_contour) return c_remplissage * f;
-  decltype(mesurer(fille)) g{};
-  for (const int rang : fille.tab_rangs_filles) g += mesurer(loc_zone(rang));
-  return g + c_remplissage * (f - g);
-}
-
-resultante loc_oter_fille(const zone_loc_type& fille, double c_remplissage, const contexte_zone& ctx_mere,
-                          bool avec_tangente) {
-  return loc_part_de_fille(fille, c_remplissage, [&](const zone_loc_type& zone_loc) {
-    return loc_efforts(zone_loc, ctx_mere, false, avec_tangente);
-  });
-}
-
-/// Whether a point of the zone passes a strain limit of its law.
-bool loc_limite_depassee(const zone_loc_type& zone_loc, const deformation& plan) {
-  const gbd_loi& loi = zone_loc.loi;
-  const bool a_min = loi.epsilon_min != qb7_sans_borne;
-  const bool a_max = loi.epsilon_max != qb7_sans_borne;
-  if (zone_loc.yz_points.empty() || (!a_min && !a_max)) return false;
-  double min = epsilon(plan, zone_loc.yz_points.front());
-  double max = min;
-  for (const point_yz& p : zone_loc.yz_points) {
-    const double e = epsilon(plan, p);
-    min = std::min(min, e);
-    max = std::max(max, e);
-  }
-  return (a_min && min + zone_loc.epsilon_a < loi.epsilon_min - zone_loc.epsilon_z) ||
-         (a_max && max + zone_loc.epsilon_a > loi.epsilon_max - zone_loc.epsilon_z);
-}
-
-resultante loc_efforts_zone(const zone_loc_type& zone_loc, double c_remplissage,
-                            const deformation& deform_section, bool avec_tangente, ier_2* ier) {
-  const contexte_zone ctx = loc_contexte(zone_loc, deform_section);
-  resultante r = loc_efforts(zone_loc, ctx, true, avec_tangente);
-  if (ier != nullptr && !*ier && loc_limite_depassee(zone_loc, ctx.plan))
-    *ier = {ERR_EPSILON_LIM, zone_loc.num_zone};
-  for (const int rang : zone_loc.tab_rangs_filles) {
-    const zone_loc_type& fille = loc_zone(rang);
-    r -= loc_oter_fille(fille, fille.c_remplissage, ctx, avec_tangente);
-  }
-  if (c_remplissage != 1) r *= c_remplissage;
-  return r;
 }
 
 void loc_tracer_zone(const zone_loc_type& zone_loc, const rigidite& mat) {
@@ -246,7 +168,7 @@ void loc_tracer_zone(const zone_loc_type& zone_loc, const rigidite& mat) {
 }
 
 double loc_surface_zone(const zone_loc_type& zone_loc, bool matiere) {
-  const double param_surface = loc_param_surface(zone_loc, matiere);
+  const double param_surface = eff_param_surface(zone_loc, matiere);
   switch (zone_loc.type_zone) {
     case qb7_zone_profil: return param_surface * int_longueur_profil(zone_loc.yz_points);
     case qb7_zone_semis: return param_surface * static_cast<double>(zone_loc.yz_points.size());
@@ -270,29 +192,82 @@ ier_2 eff_section_calcul(gbd_section& section, int num_etat_lim) {
 
 void eff_vider() { qb7_efforts.glob_nbre_zones = 0; }
 
+zone_loc_type& eff_zone_de_rang(int rang_zone) {
+  return eff_zones()[static_cast<std::size_t>(rang_zone - 1)];
+}
+
+// ---- Forces of a zone ----
+
+contexte_zone eff_contexte(const zone_loc_type& zone_loc, const deformation& deform_section) {
+  deformation plan = zone_loc.deform_zone;
+  if (zone_loc.type_deform == qb7_deform_cumulee) plan += deform_section;
+  return {{zone_loc.loi.epsilons, zone_loc.loi.coeffs, zone_loc.degre_loi}, plan};
+}
+
+double eff_param_surface(const zone_loc_type& zone_loc, bool matiere) {
+  if (loc_est_contour(zone_loc)) return 1;
+  return matiere ? zone_loc.p_matiere : zone_loc.p_encombrement;
+}
+
+resultante eff_efforts_forme(const zone_loc_type& zone_loc, std::span<const point_yz> points,
+                             const contexte_zone& ctx, bool matiere, bool avec_tangente) {
+  const double param_surface = eff_param_surface(zone_loc, matiere);
+  if (param_surface == 0) return {};
+  switch (zone_loc.type_zone) {
+    case qb7_zone_profil: return int_efforts_profil(ctx, points, param_surface, avec_tangente);
+    case qb7_zone_semis: return int_efforts_semis(ctx, points, param_surface, avec_tangente);
+    default: return int_efforts_contour(ctx, points, avec_tangente);
+  }
+}
+
+bool eff_limite_depassee(const zone_loc_type& zone_loc, std::span<const point_yz> points,
+                         const deformation& plan) {
+  const gbd_loi& loi = zone_loc.loi;
+  const bool a_min = loi.epsilon_min != qb7_sans_borne;
+  const bool a_max = loi.epsilon_max != qb7_sans_borne;
+  if (points.empty() || (!a_min && !a_max)) return false;
+  double min = epsilon(plan, points.front());
+  double max = min;
+  for (const point_yz& p : points) {
+    const double e = epsilon(plan, p);
+    min = std::min(min, e);
+    max = std::max(max, e);
+  }
+  return (a_min && min + zone_loc.epsilon_a < loi.epsilon_min - zone_loc.epsilon_z) ||
+         (a_max && max + zone_loc.epsilon_a > loi.epsilon_max - zone_loc.epsilon_z);
+}
+
+resultante eff_efforts_zone(const zone_loc_type& zone_loc, double c_remplissage,
+                            const deformation& deform_section, bool avec_tangente, ier_2* ier) {
+  const contexte_zone ctx = eff_contexte(zone_loc, deform_section);
+  if (ier != nullptr && !*ier && eff_limite_depassee(zone_loc, zone_loc.yz_points, ctx.plan))
+    *ier = {ERR_EPSILON_LIM, zone_loc.num_zone};
+  return eff_efforts_nets(zone_loc, c_remplissage, [&](const zone_loc_type& forme, bool matiere) {
+    return eff_efforts_forme(forme, forme.yz_points, ctx, matiere, avec_tangente);
+  });
+}
+
 void eff_efforts_section(const deformation& deform_section, efforts& efforts_section, rigidite* mat_section,
                          ier_2* ier) {
   const bool avec_tangente = mat_section != nullptr;
-  resultante somme;
   if (ier != nullptr) *ier = {};
-  for (const zone_loc_type& zone_loc : eff_zones()) {
-    if (!zone_loc.active_non_vide || zone_loc.c_remplissage == 0) continue;
+  const resultante somme = eff_somme_des_zones([&](const zone_loc_type& zone_loc) {
     const resultante r =
-        loc_efforts_zone(zone_loc, zone_loc.c_remplissage, deform_section, avec_tangente, ier);
+        eff_efforts_zone(zone_loc, zone_loc.c_remplissage, deform_section, avec_tangente, ier);
     if (avec_tangente) loc_tracer_zone(zone_loc, r.mat);
-    somme += r;
-  }
+    return r;
+  });
   efforts_section = somme.eff;
   if (avec_tangente) *mat_section = somme.mat;
 }
 
 double eff_surface_rang_zone(int rang_zone) {
-  const zone_loc_type& zone_loc = loc_zone(rang_zone);
+  const zone_loc_type& zone_loc = eff_zone_de_rang(rang_zone);
   if (!zone_loc.active_non_vide) return 0;
   double aire = loc_surface_zone(zone_loc, true);
   for (const int rang : zone_loc.tab_rangs_filles) {
-    const zone_loc_type& fille = loc_zone(rang);
-    aire -= loc_part_de_fille(fille, fille.c_remplissage,
+    const zone_loc_type& fille = eff_zone_de_rang(rang);
+    aire -= eff_part_de_fille(fille, fille.c_remplissage,
                               [](const zone_loc_type& z) { return loc_surface_zone(z, false); });
   }
   return aire;
@@ -306,18 +281,23 @@ double eff_surface_zone(int num_zone) {
 }
 
 rigidite eff_mat_zone(int rang_zone) {
-  const zone_loc_type& zone_loc = loc_zone(rang_zone);
+  const zone_loc_type& zone_loc = eff_zone_de_rang(rang_zone);
   if (!zone_loc.active_non_vide) return {};
-  return loc_efforts_zone(zone_loc, zone_loc.c_remplissage, {}, true, nullptr).mat;
+  return eff_efforts_zone(zone_loc, zone_loc.c_remplissage, {}, true, nullptr).mat;
 }
 
 efforts eff_mat_acier(int rang_zone, const deformation& deform_section) {
-  const zone_loc_type& zone_loc = loc_zone(rang_zone);
+  const zone_loc_type& zone_loc = eff_zone_de_rang(rang_zone);
   if (!zone_loc.active_non_vide) return {};
-  resultante r = loc_efforts_zone(zone_loc, 1, deform_section, false, nullptr);
+  resultante r = eff_efforts_zone(zone_loc, 1, deform_section, false, nullptr);
   if (zone_loc.p_encombrement != 0 && zone_loc.rang_zone_mere != 0) {
-    const zone_loc_type& mere = loc_zone(zone_loc.rang_zone_mere);
-    if (mere.active_non_vide) r -= loc_oter_fille(zone_loc, 1, loc_contexte(mere, deform_section), false);
+    const zone_loc_type& mere = eff_zone_de_rang(zone_loc.rang_zone_mere);
+    if (mere.active_non_vide) {
+      const contexte_zone ctx = eff_contexte(mere, deform_section);
+      r -= eff_part_de_fille(zone_loc, 1, [&](const zone_loc_type& forme) {
+        return eff_efforts_forme(forme, forme.yz_points, ctx, false, false);
+      });
+    }
   }
   return r.eff;
 }

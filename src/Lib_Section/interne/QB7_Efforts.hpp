@@ -70,3 +70,64 @@ rigidite eff_mat_zone(int rang_zone);
 
 /// Forces of a zone with a fill coefficient of 1, less those of the matter of its mother that it displaces.
 efforts eff_mat_acier(int rang_zone, const deformation& deform_section);
+
+// ---- What an integration with the creep of the zones shares with this one ----
+
+zone_loc_type& eff_zone_de_rang(int rang_zone);
+
+/// The law and the plane under which a zone is integrated, and the holes in it with it.
+contexte_zone eff_contexte(const zone_loc_type& zone_loc, const deformation& deform_section);
+
+/// What multiplies the forces of a zone's points: 1 for an outline, else p_matiere, or p_encombrement where
+/// it stands for a hole.
+double eff_param_surface(const zone_loc_type& zone_loc, bool matiere);
+
+/// Forces of the zone's outline, profile or bars, or of the piece of them that `points` are, under a law and
+/// a plane that may be those of its mother.
+resultante eff_efforts_forme(const zone_loc_type& zone_loc, std::span<const point_yz> points,
+                             const contexte_zone& ctx, bool matiere, bool avec_tangente);
+
+/// Whether one of the points passes a strain limit of the zone's law.
+bool eff_limite_depassee(const zone_loc_type& zone_loc, std::span<const point_yz> points,
+                         const deformation& plan);
+
+/// What a daughter with a fill coefficient takes out of its mother: it and its own daughters are measured by
+/// `mesurer`, as forces or as an area.
+template <class mesure>
+auto eff_part_de_fille(const zone_loc_type& fille, double c_remplissage, const mesure& mesurer)
+    -> decltype(mesurer(fille)) {
+  const auto f = mesurer(fille);
+  if (fille.type_zone == qb7_zone_contour) return f;
+  if (fille.type_zone != qb7_zone_sous_contour) return c_remplissage * f;
+  decltype(mesurer(fille)) g{};
+  for (const int rang : fille.tab_rangs_filles) g += mesurer(eff_zone_de_rang(rang));
+  return g + c_remplissage * (f - g);
+}
+
+/// Forces of a zone with a fill coefficient, less what its daughters take out; mesurer(zone, matiere) gives
+/// those of a form under the zone's law and plane.
+template <class mesure>
+resultante eff_efforts_nets(const zone_loc_type& zone_loc, double c_remplissage, const mesure& mesurer) {
+  resultante r = mesurer(zone_loc, true);
+  for (const int rang : zone_loc.tab_rangs_filles) {
+    const zone_loc_type& fille = eff_zone_de_rang(rang);
+    r -= eff_part_de_fille(fille, fille.c_remplissage,
+                           [&](const zone_loc_type& forme) { return mesurer(forme, false); });
+  }
+  if (c_remplissage != 1) r *= c_remplissage;
+  return r;
+}
+
+/// Forces of a zone under a plane of the section; *ier, if ier is given and still 0, tells a passed limit.
+resultante eff_efforts_zone(const zone_loc_type& zone_loc, double c_remplissage,
+                            const deformation& deform_section, bool avec_tangente, ier_2* ier);
+
+/// Sum over the zones that carry something, in order of ranks: efforts_zone(zone) gives those of one.
+template <class fonction>
+resultante eff_somme_des_zones(const fonction& efforts_zone) {
+  resultante somme;
+  for (const zone_loc_type& zone_loc : eff_zones()) {
+    if (zone_loc.active_non_vide && zone_loc.c_remplissage != 0) somme += efforts_zone(zone_loc);
+  }
+  return somme;
+}
