@@ -69,14 +69,6 @@ void loc_lire_sollicitations(const texte<32>& nom_section, const options_justifi
   loc_justifier(nom_section, nom, options, erco);
 }
 
-/// The law number is the same for every material: a section of frames whose profiles bring their own material
-/// has no main one, and any of them will do.
-int loc_numero_etat_limite(const zof_cadre_justification& cadre) {
-  texte<32> materiau = zof_get_nom_materiau_principal_section(cadre.nom_section);
-  if (!est_renseigne_chaine(materiau)) materiau = zof_get_nom_materiau_section(cadre.nom_section, 1);
-  return zof_get_no_etat_limite_qb7_materiau(materiau, cadre.label_situation, cadre.label_etat_limite);
-}
-
 bool loc_est_ultime(const texte<32>& label_etat_limite) {
   return label_etat_limite == "ELU_DURABLE" || label_etat_limite == "ELU_ACCIDENT";
 }
@@ -159,7 +151,7 @@ zof_cadre_justification loc_ouvrir_etat_limite(const texte<32>& nom_section,
   }
   zof_cadre_justification cadre{nom_section, situation, etat_limite, controle_bornes,
                                 zof_get_numero_qb7_section(nom_section)};
-  cadre.num_etat_lim_qb7 = loc_numero_etat_limite(cadre);
+  cadre.num_etat_lim_qb7 = zof_get_no_etat_limite_qb7_section(nom_section, situation, etat_limite);
   const std::string titre =
       concat({" Etat limite : ", etat_limite.utile(), " - situation: ", situation.utile()});
   loc_console("  ");

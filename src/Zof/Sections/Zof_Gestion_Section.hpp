@@ -71,6 +71,10 @@ bool zof_existe_situation_section(const socle::texte<32>& nom_section,
 bool zof_existe_etat_limite_situation_section(const socle::texte<32>& nom_section,
                                               const socle::texte<32>& label_situation,
                                               const socle::texte<32>& label_etat_limite);
+/// Number in the engine of the laws of a limit state that all materials of the section hold.
+int zof_get_no_etat_limite_qb7_section(const socle::texte<32>& nom_section,
+                                       const socle::texte<32>& label_situation,
+                                       const socle::texte<32>& label_etat_limite);
 
 /// Tendons: a group by its name, a tendon of it by the number of its point.
 bool zof_existe_precontrainte_section(const socle::texte<32>& nom_section,
