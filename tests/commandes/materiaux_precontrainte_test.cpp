@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -340,17 +339,24 @@ TEST_F(SituationPrecontrainte, Refus) {
                  "ARRET PREMATURE DE ZOF");
 }
 
+// The names of the keys QUAS keep a blank, in steels as in concrete.
 TEST_F(SituationPrecontrainte, RepetitionsDesParametres) {
-  for (const std::string entree :
-       {"COEF ELS CARA COMP", "COEF ELS CARA TRAC", "COEF ELS FREQ COMP", "COEF ELS FREQ TRAC",
-        "COEF ELS QUAS COMP", "COEF ELS QUAS TRAC", "COEF ELU BILI CONT", "COEF ELU BILI DEFO",
-        "COEF ELU BILI PART", "COEF ELU PARF PART", "CONT ELU PARF COMP", "CONT ELU PARF TRAC",
-        "DEFO ELU BILI RUPT", "MODU"}) {
-    std::string nom = entree;
-    std::replace(nom.begin(), nom.end(), ' ', '_');
-    verifier_refus(situation_precontrainte(concat({"PARA ", entree, " 1. FIN_ PARA ", entree, " 1."})),
-                   repetition(nom));
-  }
+  for (const cas& r : std::vector<cas>{{"COEF ELS CARA COMP", "COEF_ELS_CARA_COMP"},
+                                       {"COEF ELS CARA TRAC", "COEF_ELS_CARA_TRAC"},
+                                       {"COEF ELS FREQ COMP", "COEF_ELS_FREQ_COMP"},
+                                       {"COEF ELS FREQ TRAC", "COEF_ELS_FREQ_TRAC"},
+                                       {"COEF ELS QUAS COMP", "COEF_ELS _QUAS_COMP"},
+                                       {"COEF ELS QUAS TRAC", "COEF_ELS _QUAS_TRAC"},
+                                       {"COEF ELU BILI CONT", "COEF_ELU_BILI_CONT"},
+                                       {"COEF ELU BILI DEFO", "COEF_ELU_BILI_DEFO"},
+                                       {"COEF ELU BILI PART", "COEF_ELU_BILI_PART"},
+                                       {"COEF ELU PARF PART", "COEF_ELU_PARF_PART"},
+                                       {"CONT ELU PARF COMP", "CONT_ELU_PARF_COMP"},
+                                       {"CONT ELU PARF TRAC", "CONT_ELU_PARF_TRAC"},
+                                       {"DEFO ELU BILI RUPT", "DEFO_ELU_BILI_RUPT"},
+                                       {"MODU", "MODU"}})
+    verifier_refus(situation_precontrainte(concat({"PARA ", r.mots, " 1. FIN_ PARA ", r.mots, " 1."})),
+                   repetition(r.lignes));
 }
 
 TEST_F(SituationPrecontrainte, LeMoteurRefuseUneLoiImpossible) {

@@ -16,13 +16,14 @@ namespace {
 using situation = zof_situation_precontrainte_ec;
 using entree = entree_para<situation>;
 
+// The names of the keys QUAS keep the blank of the padded words, as for concrete.
 constexpr std::array<entree, 14> entrees_para = {{
     {"COEF_ELS _CARA_COMP", "COEF_ELS_CARA_COMP", &situation::m_sigma_lim_compression_els_car},
     {"COEF_ELS _CARA_TRAC", "COEF_ELS_CARA_TRAC", &situation::m_sigma_lim_traction_els_car},
     {"COEF_ELS _FREQ_COMP", "COEF_ELS_FREQ_COMP", &situation::m_sigma_lim_compression_els_fre},
     {"COEF_ELS _FREQ_TRAC", "COEF_ELS_FREQ_TRAC", &situation::m_sigma_lim_traction_els_fre},
-    {"COEF_ELS _QUAS_COMP", "COEF_ELS_QUAS_COMP", &situation::m_sigma_lim_compression_els_qp},
-    {"COEF_ELS _QUAS_TRAC", "COEF_ELS_QUAS_TRAC", &situation::m_sigma_lim_traction_els_qp},
+    {"COEF_ELS _QUAS_COMP", "COEF_ELS _QUAS_COMP", &situation::m_sigma_lim_compression_els_qp},
+    {"COEF_ELS _QUAS_TRAC", "COEF_ELS _QUAS_TRAC", &situation::m_sigma_lim_traction_els_qp},
     {"COEF_ELU _BILI_CONT", "COEF_ELU_BILI_CONT", &situation::m_coefficient_contrainte_ult_bil_elu},
     {"COEF_ELU _BILI_DEFO", "COEF_ELU_BILI_DEFO", &situation::m_coefficient_deformation_adm_bil_elu},
     {"COEF_ELU _BILI_PART", "COEF_ELU_BILI_PART", &situation::m_coefficient_partiel_elu},
