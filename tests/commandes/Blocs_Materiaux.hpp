@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "Executer.hpp"
+#include "Html_strict.hpp"
 #include "Modele.hpp"
 #include "QB7_Sections.hpp"
 #include "Texte.hpp"
@@ -141,6 +142,44 @@ inline std::string extrait(const std::string& note, const std::string& debut, co
     i = suivant + 1;
   }
   return resultat;
+}
+
+/// The words of a text in their order, one blank between them, without the rulers and the dashes of lists of
+/// a text note.
+inline std::string mots(const std::string& texte) {
+  std::string resultat;
+  for (std::size_t i = 0; i < texte.size();) {
+    const auto fin = std::min(texte.find('\n', i), texte.size());
+    const std::string_view ligne = socle::sans_blancs_initiaux(std::string_view(texte).substr(i, fin - i));
+    const bool puce = ligne.starts_with("- ");
+    i = fin + 1;
+    if (ligne.find_first_not_of("-*. ") == std::string_view::npos) continue;
+    for (const char c : ligne.substr(puce ? 2 : 0)) {
+      if (c != ' ' && c != '\r')
+        resultat += c;
+      else if (!resultat.ends_with(' '))
+        resultat += ' ';
+    }
+    if (!resultat.ends_with(' ')) resultat += ' ';
+  }
+  return resultat;
+}
+
+/// The words that a reader of the HTML note sees: each element begins a word.
+inline std::string mots_html(const std::string& html) {
+  std::string separe;
+  for (const char c : html) separe += c == '<' ? std::string(" <") : std::string(1, c);
+  return mots(texte_visible(separe));
+}
+
+/// Both notes of the run hold these words, one after the other, from this one on.
+inline void verifier_les_deux_notes(const course& c, const std::string& debut, const std::string& attendu) {
+  const std::string attendus = mots(attendu);
+  for (const std::string& note : {mots(c.txt), mots_html(c.html)}) {
+    const auto ici = note.find(debut);
+    ASSERT_NE(ici, std::string::npos) << debut;
+    EXPECT_EQ(note.substr(ici, attendus.size()), attendus);
+  }
 }
 
 }  // namespace blocs_mate

@@ -1,6 +1,7 @@
 #include "Zof_Gestion_Materiau.hpp"
 
 #include "And_anadon.hpp"
+#include "Zof_Classe_Materiau_Acier_Charpente.hpp"
 #include "Zof_Classe_Materiau_Acier_EC.hpp"
 #include "Zof_Classe_Materiau_Beton_EC.hpp"
 #include "Zof_Classe_Materiau_Precontrainte_EC.hpp"
@@ -56,6 +57,10 @@ void zof_decoder_creer_materiau(bool& erco) {
     // A concrete's kind is that of its keyword PREC, which the block must give.
     case "BETO"_mot:
       loc_creer_materiau<zof_materiau_beton_ec, zof_situation_beton_ec>(non_renseigne, erco);
+      break;
+    case "CHAR"_mot:
+      loc_creer_materiau<zof_materiau_acier_charpente, zof_situation_acier_charpente>(type_materiau_charpente,
+                                                                                      erco);
       break;
     case "PREC"_mot:
       loc_creer_materiau<zof_materiau_precontrainte_ec, zof_situation_precontrainte_ec>(

@@ -34,23 +34,10 @@ void zof_editer_materiau_acier_ec(const zof_materiau_acier_ec& m, bool& erco) {
 
 void zof_editer_situation_acier_ec(const zof_situation_acier_ec& s, bool&) {
   zof_editer_titre_situation(s);
-  zof_editer_puces({
-      zof_ligne_type_loi("Type loi ELS                        : ", s.m_type_loi_els),
-      zof_ligne_type_loi("Type loi ELU                        : ", s.m_type_loi_elu),
-      zof_ligne_double("Module_elasticite                   : ", s.m_module_elasticite),
-      zof_ligne_double("Ouverture fissure  max  frequente   : ", s.m_ouverture_fissure_max_els_freq),
-      zof_ligne_double("Ouverture fissure  max quasi_per.   : ", s.m_ouverture_fissure_max_els_quas),
-      zof_ligne_double("Sigma_lim_traction_ELS_CAR          : ", s.m_sigma_lim_traction_els_car),
-      zof_ligne_double("Sigma_lim_compression_ELS_CAR       : ", s.m_sigma_lim_compression_els_car),
-      zof_ligne_double("Sigma_lim_traction_ELS_QP           : ", s.m_sigma_lim_traction_els_qp),
-      zof_ligne_double("Sigma_lim_compression_ELS_QP        : ", s.m_sigma_lim_compression_els_qp),
-      zof_ligne_double("Sigma_lim_traction_ELS_FRE          : ", s.m_sigma_lim_traction_els_fre),
-      zof_ligne_double("Sigma_lim_compression_ELS_FRE       : ", s.m_sigma_lim_compression_els_fre),
-      zof_ligne_double("Coefficient_partiel_ELU             : ", s.m_coefficient_partiel_elu),
-      zof_ligne_double("Coefficient_contrainte_ult_BIL_ELU  : ", s.m_coefficient_contrainte_ult_bil_elu),
-      zof_ligne_double("Coefficient_deformation_adm_BIL_ELU : ", s.m_coefficient_deformation_adm_bil_elu),
-      zof_ligne_double("Epsilon_rupture_BIL_ELU             : ", s.m_epsilon_rupture_bil_elu),
-      zof_ligne_double("Epsilon_rupture_PP_ELU              : ", s.m_epsilon_rupture_pp_elu),
-  });
+  zof_editer_puces(zof_lignes_situation_acier(
+      s,
+      {zof_ligne_double("Ouverture fissure  max  frequente   : ", s.m_ouverture_fissure_max_els_freq),
+       zof_ligne_double("Ouverture fissure  max quasi_per.   : ", s.m_ouverture_fissure_max_els_quas)},
+      {zof_ligne_double("Epsilon_rupture_PP_ELU              : ", s.m_epsilon_rupture_pp_elu)}));
   zof_editer_lois_situation(s);
 }
