@@ -6,6 +6,7 @@
 #include "QB7_PAR_Parametres.hpp"
 #include "QB7_Sections.hpp"
 #include "UTL_02_Ecriture_Resu.hpp"
+#include "UTL_04_Dessin.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
@@ -18,6 +19,7 @@ void zof_reinitialiser() {
   and_global_reinitialiser();
   zof_erreurs_reinitialiser();
   utl_02_reinitialiser();
+  utl_04_reinitialiser();
   qb7_quitter();
   qb7_par_reinitialiser();
   qb7_err_reinitialiser();
