@@ -278,6 +278,16 @@ ier_2 qb7_effort_resistant_limite(bool bornes, int num_section, int num_etat_lim
                                   const efforts& efforts_section, const efforts& delta_efforts, double k_min,
                                   double k_max, double& k);
 
+/// Closed curve of the forces that a section can just carry, in the plane of the (N, My, Mz) that satisfy
+/// row 3 of mat_plan . F = c; x and y are rows 1 and 2 . F. As many points as xy_points has, at least 4,
+/// counter-clockwise in (x, y), each within a thousandth of the curve's width and height. What the section
+/// carries is what qb7_solliciter_section finds in equilibrium; without bornes, past the strain limits too.
+/// All zeros on failure. ERR_NBRE_PTS_DGI (number of points); ERR_MAT_PLAN: singular matrix;
+/// ERR_NON_POINT_INT: nothing is carried in this plane; ERR_NON_POINT_EXT: no end to what is carried. The
+/// last two are results: they do not end a run.
+ier_2 qb7_diagramme_interaction(bool bornes, int num_section, int num_etat_lim, const matrice_3& mat_plan,
+                                double c, std::span<point_xy> xy_points);
+
 // ---- Design ----
 
 /// Least steel with which the section carries every loading: the fill coefficients of the zones that are

@@ -1,5 +1,8 @@
 // The computing side of the facade: the work tables are built afresh at each call, then asked.
+#include <algorithm>
+
 #include "QB7_Acces.hpp"
+#include "QB7_Diagramme.hpp"
 #include "QB7_ERR_Erreurs.hpp"
 #include "QB7_Efforts.hpp"
 #include "QB7_Equilibre.hpp"
@@ -152,5 +155,15 @@ ier_2 qb7_effort_resistant_limite(bool bornes, int num_section, int num_etat_lim
   return qb7_sur_section("QB7_Effort_Resistant_Limite", num_section, [&](gbd_section& section) {
     const ier_2 ier = eff_section_calcul(section, num_etat_lim);
     return ier ? ier : eff_effort_resistant_limite(bornes, efforts_section, delta_efforts, k_min, k_max, k);
+  });
+}
+
+ier_2 qb7_diagramme_interaction(bool bornes, int num_section, int num_etat_lim, const matrice_3& mat_plan,
+                                double c, std::span<point_xy> xy_points) {
+  std::ranges::fill(xy_points, point_xy{});
+  return qb7_sur_section("QB7_Diagramme_Interaction", num_section, [&](gbd_section& section) {
+    const ier_2 ier = dgi_interaction(bornes, section, num_etat_lim, mat_plan, c, xy_points);
+    if (ier) std::ranges::fill(xy_points, point_xy{});
+    return ier;
   });
 }

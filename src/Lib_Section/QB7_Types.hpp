@@ -105,6 +105,16 @@ struct point_yz {
   friend constexpr bool operator==(const point_yz&, const point_yz&) = default;
 };
 
+/// A point of the plane of an interaction diagram.
+struct point_xy {
+  double x = 0, y = 0;
+
+  friend constexpr point_xy operator+(point_xy a, point_xy b) { return {a.x + b.x, a.y + b.y}; }
+  friend constexpr point_xy operator-(point_xy a, point_xy b) { return {a.x - b.x, a.y - b.y}; }
+  friend constexpr point_xy operator*(double k, point_xy p) { return {k * p.x, k * p.y}; }
+  friend constexpr bool operator==(const point_xy&, const point_xy&) = default;
+};
+
 /// Frame of loading: origin in the section's own axes, and angle in radians with its cosine and sine.
 struct repere {
   double y_rep = 0, z_rep = 0, alpha = 0, cosal = 1, sinal = 0;
@@ -115,6 +125,8 @@ constexpr double epsilon(const deformation& d, point_yz p) { return d.e0 + d.ky 
 
 constexpr double norme_2(const deformation& d) { return d.e0 * d.e0 + d.ky * d.ky + d.kz * d.kz; }
 constexpr double norme_2(const efforts& f) { return f.n * f.n + f.my * f.my + f.mz * f.mz; }
+
+using matrice_3 = std::array<std::array<double, 3>, 3>;  ///< by rows
 
 /// A point of the section's own axes, seen in a frame of loading, and back.
 constexpr point_yz vers_repere(const repere& r, point_yz p) {

@@ -1,9 +1,7 @@
 // Spectral analysis of a symmetric matrix by Jacobi rotations.
 #pragma once
 
-#include <array>
-
-using matrice_3 = std::array<std::array<double, 3>, 3>;
+#include "QB7_Types.hpp"
 
 /// Rotates the symmetric matrix a until its terms outside the diagonal are small: the diagonal then holds the
 /// eigenvalues. In v, if given, the columns are the eigenvectors.
