@@ -29,6 +29,19 @@ std::optional<vis_a_vis> loc_vis_a_vis(const zof_point& bout_1, const zof_segmen
   return {};
 }
 
+/// What faces each other at the two ends of the wall of two segments.
+struct bouts_de_paroi {
+  std::optional<vis_a_vis> origine, extremite;
+};
+
+bouts_de_paroi loc_bouts(const zof_segment& segment_1, const zof_segment& segment_2, double e) {
+  const vecteur_yz n = zof_vecteur_perpendiculaire_segment(zof_segment_moyen(segment_1, segment_2));
+  return {
+      loc_vis_a_vis(segment_1.m_le_point_origine, segment_1, segment_2.m_le_point_origine, segment_2, n, e),
+      loc_vis_a_vis(segment_1.m_le_point_extremite, segment_1, segment_2.m_le_point_extremite, segment_2, n,
+                    e)};
+}
+
 }  // namespace
 
 zof_paroi& zof_pt_paroi(uef_vector_element& element) {
@@ -38,13 +51,15 @@ zof_paroi zof_cp_paroi(const uef_vector_element& element) {
   return zof_element<zof_paroi>(element, "Zof_Pt_Paroi : Cas impossible");
 }
 
+bool zof_segments_face_a_face(const zof_segment& segment_1, const zof_segment& segment_2,
+                              double epaisseur_paroi_max) {
+  const auto [origine, extremite] = loc_bouts(segment_1, segment_2, epaisseur_paroi_max);
+  return origine && extremite;
+}
+
 zof_paroi zof_paroi_commune_segments(const zof_segment& segment_1, const zof_segment& segment_2,
                                      double epaisseur_paroi_max, int le_numero_paroi) {
-  const vecteur_yz n = zof_vecteur_perpendiculaire_segment(zof_segment_moyen(segment_1, segment_2));
-  const auto origine = loc_vis_a_vis(segment_1.m_le_point_origine, segment_1, segment_2.m_le_point_origine,
-                                     segment_2, n, epaisseur_paroi_max);
-  const auto extremite = loc_vis_a_vis(segment_1.m_le_point_extremite, segment_1,
-                                       segment_2.m_le_point_extremite, segment_2, n, epaisseur_paroi_max);
+  const auto [origine, extremite] = loc_bouts(segment_1, segment_2, epaisseur_paroi_max);
   zof_assert(origine.has_value() == extremite.has_value(), "Zof_Paroi_commune_segments: Cas impossible ");
   zof_paroi paroi;
   if (!origine || !extremite) return paroi;

@@ -19,6 +19,11 @@ struct zof_paroi : uef_element<zof_paroi> {
 zof_paroi& zof_pt_paroi(uef_vector_element& element);
 zof_paroi zof_cp_paroi(const uef_vector_element& element);
 
+/// Whether two segments that run the same way have points across from each other at both ends: then they have
+/// a wall in common.
+bool zof_segments_face_a_face(const zof_segment& segment_1, const zof_segment& segment_2,
+                              double epaisseur_paroi_max);
+
 /// The wall that two segments which run the same way have in common: at each end, the point of one segment
 /// and the point of the other across the mean segment, not farther than `epaisseur_paroi_max` (m). The wall
 /// refers to both segments, which outlive it; without a wall its references are null. A wall at one end only

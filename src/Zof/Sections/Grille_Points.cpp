@@ -9,20 +9,22 @@ std::size_t grille_points::hachage::operator()(const carre& c) const {
 }
 
 // In double: a coordinate of any size has a square.
-grille_points::carre grille_points::carre_de(point_yz p) {
-  return {std::floor(p.y / zof_tolerance_points_confondus), std::floor(p.z / zof_tolerance_points_confondus)};
+grille_points::carre grille_points::carre_de(point_yz p) const {
+  return {std::floor(p.y / portee_), std::floor(p.z / portee_)};
 }
 
-bool grille_points::existe_proche(point_yz p) const {
+int grille_points::rang_proche(point_yz p) const {
   const carre centre = carre_de(p);
   for (int i = -1; i <= 1; ++i) {
     for (int j = -1; j <= 1; ++j) {
       const auto [debut, fin] = points_.equal_range({centre.y + i, centre.z + j});
-      for (auto q = debut; q != fin; ++q)
-        if (std::hypot(q->second.y - p.y, q->second.z - p.z) < zof_tolerance_points_confondus) return true;
+      for (auto q = debut; q != fin; ++q) {
+        const auto& [position, rang] = q->second;
+        if (std::hypot(position.y - p.y, position.z - p.z) < portee_) return rang;
+      }
     }
   }
-  return false;
+  return 0;
 }
 
-void grille_points::ajouter(point_yz p) { points_.emplace(carre_de(p), p); }
+void grille_points::ajouter(point_yz p, int rang) { points_.emplace(carre_de(p), point_range{p, rang}); }

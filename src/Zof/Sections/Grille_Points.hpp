@@ -1,6 +1,6 @@
 #pragma once
-// Points sorted in squares as wide as the tolerance: whether one lies nearer than that to a point is found
-// without going through all of them.
+// Points sorted in squares as wide as a reach: whether one lies nearer than that to a point, and which, is
+// found without going through all of them.
 
 #include <unordered_map>
 
@@ -9,9 +9,13 @@
 
 class grille_points {
  public:
-  /// True if a point of the grid lies strictly nearer than the tolerance.
-  [[nodiscard]] bool existe_proche(point_yz p) const;
-  void ajouter(point_yz p);
+  /// portee: the reach, m; two points nearer than the tolerance are one point.
+  explicit grille_points(double portee = zof_tolerance_points_confondus) : portee_(portee) {}
+  /// Rank of a point of the grid that lies strictly nearer than the reach; 0 if there is none.
+  [[nodiscard]] int rang_proche(point_yz p) const;
+  [[nodiscard]] bool existe_proche(point_yz p) const { return rang_proche(p) != 0; }
+  /// Ranks are above 0; several points may have the same.
+  void ajouter(point_yz p, int rang = 1);
 
  private:
   struct carre {
@@ -21,7 +25,12 @@ class grille_points {
   struct hachage {
     std::size_t operator()(const carre& c) const;
   };
-  static carre carre_de(point_yz p);
+  struct point_range {
+    point_yz position;
+    int rang;
+  };
+  [[nodiscard]] carre carre_de(point_yz p) const;
 
-  std::unordered_multimap<carre, point_yz, hachage> points_;
+  double portee_;
+  std::unordered_multimap<carre, point_range, hachage> points_;
 };

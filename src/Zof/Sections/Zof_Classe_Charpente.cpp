@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "And_anadon.hpp"
+#include "Arithmetique.hpp"
 #include "Edition.hpp"
 #include "QB7_Sections.hpp"
 #include "UTL_02_Ecriture_Resu.hpp"
@@ -187,7 +188,7 @@ void zof_charpente::symetriser_contenu(const std::vector<int>& images) {
         zof_cp_point(*m_les_points_zone.case_element(origine).m_ptr_element).m_numero_point;
     image.m_no_point_extremite =
         zof_cp_point(*m_les_points_zone.case_element(extremite).m_ptr_element).m_numero_point;
-    image.m_numero_profil = ++numero;
+    image.m_numero_profil = numero = somme_32(numero, 1);
     m_les_profils_charpente.ajouter(image);
   }
 }

@@ -38,4 +38,4 @@ void zof_contour::traiter_zone(bool& erco) {
   finaliser_zone(erco);
 }
 
-bool zof_contour::point_interieur_zone(point_yz p) const { return point_dans_contour(p); }
+bool zof_contour::point_interieur_zone(point_yz p) const { return contour_.contient(p); }

@@ -21,4 +21,4 @@ void zof_evidement::traiter_zone(bool& erco) {
   finaliser_zone(erco);
 }
 
-bool zof_evidement::point_interieur_zone(point_yz p) const { return point_dans_contour(p); }
+bool zof_evidement::point_interieur_zone(point_yz p) const { return contour_.contient(p); }

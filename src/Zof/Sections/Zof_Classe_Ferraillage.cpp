@@ -1,6 +1,7 @@
 #include "Zof_Classe_Ferraillage.hpp"
 
 #include "And_anadon.hpp"
+#include "QB7_Sections.hpp"
 #include "Simple.hpp"
 #include "Zof_Classe_Contour.hpp"
 #include "Zof_Classe_Materiau.hpp"
@@ -69,6 +70,12 @@ void zof_ferraillage::traiter_zone(bool& erco) {
 void zof_ferraillage::controle_duplication_point(bool& erco) {
   auto* const contour = dynamic_cast<zof_contour*>(zone_mere());
   refuser_points_doubles(contour->m_barres, erco);
+}
+
+void zof_ferraillage::declarer_aciers_passifs_dimensionnables() const {
+  if (!m_dimensionnable) return;
+  zof_assert(!qb7_fixer_dimensionnable(m_numero_section_qb7, m_numero_zone_qb7, true),
+             "Zof_Declarer_Aciers_Passifs_Dimensionnables : Cas impossible");
 }
 
 double zof_ferraillage::rayon_points() const {

@@ -36,6 +36,7 @@ struct zof_ferraillage : uef_element<zof_ferraillage, zof_zone> {
   /// Bars are compared with all the bars of their contour.
   void controle_duplication_point(bool& erco) override;
   [[nodiscard]] double rayon_points() const override;
+  void declarer_aciers_passifs_dimensionnables() const override;
 
  protected:
   [[nodiscard]] std::vector<std::string> donnees_editees() const override;

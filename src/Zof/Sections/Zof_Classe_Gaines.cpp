@@ -1,8 +1,5 @@
 #include "Zof_Classe_Gaines.hpp"
 
-#include <algorithm>
-#include <cmath>
-
 #include "Simple.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Utilit.hpp"
@@ -32,13 +29,12 @@ void zof_gaines::traiter_zone(bool& erco) {
   if (erco) return;
   m_type_zone_qb7 = qb7_zone_semis;
   finaliser_zone(erco);
+  if (erco) return;
+  centres_ = grille_points(m_diametre_zone / 2);
+  for (const point_yz& centre : positions_points()) centres_.ajouter(centre);
 }
 
-bool zof_gaines::point_interieur_zone(point_yz p) const {
-  return std::any_of(positions_.begin(), positions_.end(), [&](point_yz centre) {
-    return std::hypot(p.y - centre.y, p.z - centre.z) < m_diametre_zone / 2;
-  });
-}
+bool zof_gaines::point_interieur_zone(point_yz p) const { return centres_.existe_proche(p); }
 
 double zof_gaines::rayon_points() const {
   return est_renseigne_double(m_diametre_zone) ? m_diametre_zone / 2 : 0;

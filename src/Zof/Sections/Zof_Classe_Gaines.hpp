@@ -16,4 +16,7 @@ struct zof_gaines : uef_element<zof_gaines, zof_zone> {
 
  protected:
   [[nodiscard]] std::vector<std::string> donnees_editees() const override;
+
+ private:
+  grille_points centres_;  // of ducts in the engine: what stands in one is nearer than half its diameter
 };

@@ -79,6 +79,12 @@ std::vector<int> zof_precontrainte::numeros_zones_qb7() const {
   return numeros;
 }
 
+void zof_precontrainte::desactiver_precontrainte() const {
+  for (const int numero : numeros_zones_qb7())
+    zof_assert(!qb7_activer_zone(m_numero_section_qb7, numero, false, false),
+               "Zof_Desactiver_Precontrainte : Cas impossible");
+}
+
 double zof_precontrainte::rayon_points() const {
   return est_renseigne_double(m_diametre_zone) ? m_diametre_zone / 2 : 0;
 }

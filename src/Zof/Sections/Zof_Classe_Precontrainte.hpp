@@ -20,6 +20,7 @@ struct zof_precontrainte : uef_element<zof_precontrainte, zof_zone> {
   void finaliser_zone_precontrainte(bool& erco);
   [[nodiscard]] std::vector<int> numeros_zones_qb7() const override;
   [[nodiscard]] double rayon_points() const override;
+  void desactiver_precontrainte() const override;
   /// Engine zone of the tendon at the point of that number; not given if there is none.
   [[nodiscard]] int numero_cable_qb7(int numero_point) const;
 

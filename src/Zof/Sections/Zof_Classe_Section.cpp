@@ -146,6 +146,13 @@ void zof_section::lister_materiaux() {
   }
 }
 
+int zof_section::numero_point_max_section() const {
+  int numero = 0;
+  for (const auto& p : uef_parcours<zof_zone_generalisee_pointeur>(m_les_zones))
+    numero = std::max(numero, static_cast<const zof_zone*>(p.m_pt_zone)->numero_point_max_recursif());
+  return numero;
+}
+
 void zof_section::emprise_section() {
   constexpr double infini = std::numeric_limits<double>::infinity();
   m_y_min_max = {infini, -infini};

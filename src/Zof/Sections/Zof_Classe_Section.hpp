@@ -40,6 +40,8 @@ struct zof_section : uef_element<zof_section, zof_zone_generalisee> {
   void controle_section(bool& erco) const;
   void lister_materiaux();
   void emprise_section();
+  /// The greatest number of a point in the section; 0 without points.
+  [[nodiscard]] int numero_point_max_section() const;
 
  private:
   std::vector<zof_zone*> zones_;

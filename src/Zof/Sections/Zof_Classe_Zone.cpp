@@ -20,14 +20,6 @@ void loc_assert_qb7(ier_2 ier) { zof_assert(!ier, "Zof_Finaliser_zone : Cas impo
 
 point_yz loc_position(const zof_point& p) { return {p.m_y, p.m_z}; }
 
-double loc_distance_au_cote(point_yz p, point_yz a, point_yz b) {
-  const point_yz ab{b.y - a.y, b.z - a.z};
-  const double longueur_2 = ab.y * ab.y + ab.z * ab.z;
-  const double t = longueur_2 > 0 ? ((p.y - a.y) * ab.y + (p.z - a.z) * ab.z) / longueur_2 : 0;
-  const double borne = std::clamp(t, 0.0, 1.0);
-  return std::hypot(p.y - a.y - borne * ab.y, p.z - a.z - borne * ab.z);
-}
-
 }  // namespace
 
 zof_zone* zof_zone::zone_mere() const { return dynamic_cast<zof_zone*>(m_p_zone_mere); }
@@ -90,6 +82,30 @@ polygone zof_zone::positions_points() const {
   positions.reserve(static_cast<std::size_t>(m_les_points_zone.nombre()));
   for (const zof_point& p : uef_parcours<zof_point>(m_les_points_zone)) positions.push_back(loc_position(p));
   return positions;
+}
+
+// Zones may nest to any depth: those that are still to come stand in a list, not on the machine's stack.
+void zof_zone::ajout_zone_recursif(std::vector<const zof_zone*>& zones) const {
+  std::vector<const zof_zone*> a_venir{this};
+  while (!a_venir.empty()) {
+    const zof_zone* const zone = a_venir.back();
+    a_venir.pop_back();
+    zones.push_back(zone);
+    for (int i = zone->m_les_zones.nombre(); i >= 1; --i) {
+      const auto fille = zof_cp_pointeur_zone(*zone->m_les_zones.case_element(i).m_ptr_element);
+      a_venir.push_back(static_cast<const zof_zone*>(fille.m_pt_zone));
+    }
+  }
+}
+
+int zof_zone::numero_point_max_recursif() const {
+  std::vector<const zof_zone*> zones;
+  ajout_zone_recursif(zones);
+  int numero = 0;
+  for (const zof_zone* const zone : zones)
+    for (const zof_point& p : uef_parcours<zof_point>(zone->m_les_points_zone))
+      numero = std::max(numero, p.m_numero_point);
+  return numero;
 }
 
 double zof_zone::aire_zone() const { return aire_polygone(positions_points()); }
@@ -163,9 +179,10 @@ void zof_zone::finaliser_zone(bool& erco) {
   if (erco) return;
   creer_zone_qb7(m_numero_zone_qb7, m_numero_materiau_qb7, liste_points,
                  {m_matiere_zone_qb7, m_encombrement_zone_qb7}, m_numero_mere_zone_qb7);
-  positions_ = positions_points();
   if (m_type_zone_qb7 != qb7_zone_contour) return;
-  const double aire = aire_polygone(positions_);
+  const polygone positions = positions_points();
+  contour_ = index_contour(positions);
+  const double aire = aire_polygone(positions);
   zof_assert_commande(aire > 0,
                       concat({" l aire de la zone ", m_nom_zone.utile(), "  est  négative :"_l1,
                               zof_chaine_numerique_double(aire).entier()}),
@@ -220,22 +237,6 @@ void zof_zone::symetriser(int axe) {
 void zof_zone::symetriser_contenu(const std::vector<int>&) {}
 
 // ---- Points inside their mother
-
-// Crossings of the ray towards +y; a side's lower end counts, its upper end does not. A point on a side, or
-// nearer to it than the tolerance, is inside: a zone may be flush with the one that holds it.
-bool zof_zone::point_dans_contour(point_yz p) const {
-  constexpr double tolerance = zof_tolerance_points_confondus;
-  bool dedans = false;
-  for (std::size_t i = 0; i < positions_.size(); ++i) {
-    point_yz a = positions_[i];
-    point_yz b = positions_[i + 1 == positions_.size() ? 0 : i + 1];
-    if (a.z > b.z) std::swap(a, b);
-    if (p.z <= a.z - tolerance || p.z >= b.z + tolerance) continue;
-    if (loc_distance_au_cote(p, a, b) < tolerance) return true;
-    if (a.z <= p.z && p.z < b.z && p.y < a.y + (b.y - a.y) * (p.z - a.z) / (b.z - a.z)) dedans = !dedans;
-  }
-  return dedans;
-}
 
 bool zof_zone::point_interieur_zone(point_yz) const { return true; }
 

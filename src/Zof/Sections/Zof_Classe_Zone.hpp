@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Grille_Points.hpp"
+#include "Index_Contour.hpp"
 #include "QB7_Types.hpp"
 #include "Texte.hpp"
 #include "Uef_Classe_Vector.hpp"
@@ -137,6 +138,7 @@ struct zof_zone : zof_zone_generalisee {
   [[nodiscard]] double aire_zone() const;
   /// Every point must lie in the zone that holds this one.
   void controle_points_interieurs_zone(bool& erco) const;
+  /// Always true but for outlines and ducts: nothing else bounds what stands in it.
   [[nodiscard]] virtual bool point_interieur_zone(point_yz p) const;
 
   // ---- What stands in the tree under this zone
@@ -144,6 +146,18 @@ struct zof_zone : zof_zone_generalisee {
   [[nodiscard]] bool contient_cable() const { return contient_cable_; }
   /// Tells this zone and those that hold it of a new zone in them.
   void noter_contenu(nature_zone nature_fille);
+
+  /// Appends this zone and all that stand in it, a mother before her children, brothers in the order of their
+  /// declaration.
+  void ajout_zone_recursif(std::vector<const zof_zone*>& zones) const;
+  /// The greatest number that a user or the section gave to a point of these zones; 0 without points.
+  [[nodiscard]] int numero_point_max_recursif() const;
+
+  // ---- What a kind of zone tells the engine; the others have nothing to tell
+  /// The engine zones of tendons go out of action.
+  virtual void desactiver_precontrainte() const {}
+  /// Design may change bars that have been described so.
+  virtual void declarer_aciers_passifs_dimensionnables() const {}
 
   // ---- Results
   /// The engine zones that this zone is made of: itself, or one for each profile or tendon.
@@ -158,8 +172,8 @@ struct zof_zone : zof_zone_generalisee {
   virtual void edition_zone() const;
 
  protected:
-  /// Positions of the points of a zone that is in the engine: what stands in it is tested against them.
-  polygone positions_;
+  /// The outline of a contour or a void that is in the engine: what stands in it is tested against it.
+  index_contour contour_;
 
   /// Name of the material after MATE: takes it and gives its kind. An unknown one is refused.
   int lire_materiau(bool& erco);
@@ -182,8 +196,6 @@ struct zof_zone : zof_zone_generalisee {
   void refuser_points_doubles(grille_points& grille, bool& erco) const;
   /// The checks on the number of points of an outline.
   void controle_nombre_points(socle::vue_l1 message, socle::vue_l1 message_partiel, bool& erco) const;
-  /// True if the point lies in the outline or nearer than the tolerance to one of its sides.
-  [[nodiscard]] bool point_dans_contour(point_yz p) const;
   /// The bullets of this kind of zone, behind its material: one text each.
   [[nodiscard]] virtual std::vector<std::string> donnees_editees() const;
 

@@ -227,12 +227,8 @@ std::optional<double> zof_contrainte_limite_precontrainte_section(const texte<32
 }
 
 void zof_declarer_aciers_passifs_dimensionnables_section(const texte<32>& nom_section) {
-  for (const zof_zone* const zone : zof_lister_zones_section(nom_section)) {
-    const auto* const barres = dynamic_cast<const zof_ferraillage*>(zone);
-    if (barres != nullptr && barres->m_dimensionnable)
-      loc_assert_qb7(
-          qb7_fixer_dimensionnable(zone->get_numero_section_qb7(), zone->get_numero_zone_qb7(), true));
-  }
+  for (const zof_zone* const zone : zof_lister_zones_section(nom_section))
+    zone->declarer_aciers_passifs_dimensionnables();
 }
 
 void zof_emprise_section(zof_section& section) { section.emprise_section(); }
@@ -262,11 +258,7 @@ void zof_activer_section(const texte<32>& nom_section, bool opt_sauf_precontrain
 }
 
 void zof_desactiver_cables_section(const texte<32>& nom_section) {
-  for (const zof_zone* const zone : zof_lister_zones_section(nom_section)) {
-    if (zone->nature() != nature_zone::precontrainte) continue;
-    for (const int numero : zone->numeros_zones_qb7())
-      loc_assert_qb7(qb7_activer_zone(zone->get_numero_section_qb7(), numero, false, false));
-  }
+  for (const zof_zone* const zone : zof_lister_zones_section(nom_section)) zone->desactiver_precontrainte();
 }
 
 namespace {
