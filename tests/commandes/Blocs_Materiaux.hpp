@@ -6,7 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <iomanip>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -170,6 +173,40 @@ inline std::string mots_html(const std::string& html) {
   std::string separe;
   for (const char c : html) separe += c == '<' ? std::string(" <") : std::string(1, c);
   return mots(texte_visible(separe));
+}
+
+/// Labels of the situation's limit states, in their order.
+inline std::vector<std::string> etats_de(const zof_situation_materiau& s) {
+  std::vector<std::string> labels;
+  for (const zof_etat_limite& e : uef_parcours<zof_etat_limite>(s.m_les_etats_limites))
+    labels.emplace_back(e.m_label_etat_limite.utile());
+  return labels;
+}
+
+/// The table of a law in a note, from its rows.
+inline std::string table(const std::vector<std::string>& lignes) {
+  std::string resultat = "Epsilon Sigma (Mpa)\n";
+  for (const std::string& ligne : lignes) resultat += ligne + "\n";
+  return resultat;
+}
+
+/// A number that the reader takes in double precision.
+inline std::string reel(double valeur) {
+  std::ostringstream s;
+  s << std::scientific << std::setprecision(16) << valeur;
+  std::string texte_lu = s.str();
+  texte_lu[texte_lu.find('e')] = 'D';
+  return texte_lu;
+}
+
+/// The number that follows the label.
+inline double nombre_apres(const std::string& note, const std::string& label) {
+  const auto ici = note.find(label);
+  if (ici == std::string::npos) {
+    ADD_FAILURE() << "no " << label;
+    return NAN;
+  }
+  return std::stod(note.substr(ici + label.size(), 20));
 }
 
 /// Both notes of the run hold these words, one after the other, from this one on.

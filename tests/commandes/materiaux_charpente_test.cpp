@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <iomanip>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -35,12 +33,6 @@ zof_materiau_acier_charpente& le_materiau() {
 zof_situation_acier_charpente& la_situation(const char* label = "EXPLOITATION_SERVICE") {
   return dynamic_cast<zof_situation_acier_charpente&>(
       *zof_get_pt_situation_materiau("S355", std::string(label)));
-}
-std::vector<std::string> etats_de(const zof_situation_materiau& s) {
-  std::vector<std::string> labels;
-  for (const zof_etat_limite& e : uef_parcours<zof_etat_limite>(s.m_les_etats_limites))
-    labels.emplace_back(e.m_label_etat_limite.utile());
-  return labels;
 }
 int type_trou(int etat) {
   int type = 0;
@@ -373,12 +365,6 @@ TEST_F(SituationCharpente, UnTypeDeLoiInconnuArreteLaCourse) {
 
 namespace {
 
-std::string table(const std::vector<std::string>& lignes) {
-  std::string resultat = "Epsilon Sigma (Mpa)\n";
-  for (const std::string& ligne : lignes) resultat += ligne + "\n";
-  return resultat;
-}
-
 /// A situation that nothing was said of; its rank is the second number of its title.
 std::string situation_par_defaut(int rang, const std::string& label,
                                  const std::vector<std::string>& etats_elastiques) {
@@ -470,24 +456,6 @@ TEST(EditMate, Charpente) {
 // ---------------------------------------------------------------------------------
 
 namespace {
-
-/// A number that the reader takes in double precision.
-std::string reel(double valeur) {
-  std::ostringstream s;
-  s << std::scientific << std::setprecision(16) << valeur;
-  std::string texte_lu = s.str();
-  texte_lu[texte_lu.find('e')] = 'D';
-  return texte_lu;
-}
-
-double nombre_apres(const std::string& note, const std::string& label) {
-  const auto ici = note.find(label);
-  if (ici == std::string::npos) {
-    ADD_FAILURE() << "no " << label;
-    return NAN;
-  }
-  return std::stod(note.substr(ici + label.size(), 20));
-}
 
 /// Plate 100 x 200 mm of the steel: b h^2 / 6 and b h^2 / 4 are its moduli.
 constexpr double b = 0.1;

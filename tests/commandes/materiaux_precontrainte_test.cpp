@@ -34,12 +34,6 @@ zof_situation_precontrainte_ec& la_situation(const char* label = "EXPLOITATION_S
   return dynamic_cast<zof_situation_precontrainte_ec&>(
       *zof_get_pt_situation_materiau("T15", std::string(label)));
 }
-std::vector<std::string> etats_de(const zof_situation_materiau& s) {
-  std::vector<std::string> labels;
-  for (const zof_etat_limite& e : uef_parcours<zof_etat_limite>(s.m_les_etats_limites))
-    labels.emplace_back(e.m_label_etat_limite.utile());
-  return labels;
-}
 int type_trou(int etat) {
   int type = 0;
   EXPECT_FALSE(qb7_lire_type_trou(1, etat, type));

@@ -112,7 +112,7 @@ TEST_F(CommandeMate, LesNomsSontCommunsAToutesLesFamilles) {
 }
 
 TEST_F(CommandeMate, UneFamilleInconnueEstRefusee) {
-  for (const std::string famille : {"BOIS", "SPEC"})
+  for (const std::string famille : {"BOIS", "BETA"})
     verifier_refus("MATE " + famille + " M TITR 'b'", mot_incorrect(famille));
   const course c = executer_bloc("MATE BETO 'C30'");
   EXPECT_EQ(c.statut, 1);

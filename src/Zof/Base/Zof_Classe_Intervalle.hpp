@@ -1,4 +1,4 @@
-// One piece of a piecewise cubic: a0 + a1 x + a2 x^2 + a3 x^3 up to epsilon.
+// One piece of a piecewise cubic: a0 + a1 x + a2 x^2 + a3 x^3 from epsilon on, up to the next piece.
 #pragma once
 
 #include "Non_renseigne.hpp"

@@ -4,6 +4,7 @@
 #include "Zof_Classe_Materiau_Acier_Charpente.hpp"
 #include "Zof_Classe_Materiau_Acier_EC.hpp"
 #include "Zof_Classe_Materiau_Beton_EC.hpp"
+#include "Zof_Classe_Materiau_Generique.hpp"
 #include "Zof_Classe_Materiau_Precontrainte_EC.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Utilit.hpp"
@@ -65,6 +66,10 @@ void zof_decoder_creer_materiau(bool& erco) {
     case "PREC"_mot:
       loc_creer_materiau<zof_materiau_precontrainte_ec, zof_situation_precontrainte_ec>(
           type_materiau_precontrainte, erco);
+      break;
+    case "SPEC"_mot:
+      loc_creer_materiau<zof_materiau_generique, zof_situation_materiau_generique>(type_materiau_generique,
+                                                                                   erco);
       break;
     default: zof_attribut_incorrect(mot, erco);
   }

@@ -170,8 +170,8 @@ bool zof_existe_etat_limite_situation_section(const texte<32>& nom_section, cons
   return true;
 }
 
-// The number is the same for every material: a section of frames whose profiles bring their own material has no
-// main one, and any of them will do.
+// The number is the same for every material: a section of frames whose profiles bring their own material has
+// no main one, and any of them will do.
 int zof_get_no_etat_limite_qb7_section(const texte<32>& nom_section, const texte<32>& label_situation,
                                        const texte<32>& label_etat_limite) {
   texte<32> materiau = zof_get_nom_materiau_principal_section(nom_section);
