@@ -120,11 +120,8 @@ TEST(CommandeSect, LesErreursTerminentLaCourse) {
   refuser("SECT S1 TITR 'x' CONT C1 MATE C30 RECT HAUT 0. ", "Attribut hauteur incorrect : <=0");
 }
 
-// What automatic layouts and the thin-wall model need is refused by its keyword.
+// What the thin-wall model needs is refused by its keyword.
 TEST(CommandeSect, MotsRefuses) {
-  const std::string ferr = "SECT S1 TITR 'x' CONT C1 MATE C30 RECT HAUT 1. LARG 1. FIN_ FERR F1 MATE B500 ";
-  refuser(ferr + "OPTI ", " Mot clef  OPTI incorrect dans ce contexte");
-  refuser(ferr + "LITS ", " Mot clef  LITS incorrect dans ce contexte");
   refuser("SECT S1 TITR 'x' MORP ", " Mot clef  MORP incorrect dans ce contexte");
 }
 

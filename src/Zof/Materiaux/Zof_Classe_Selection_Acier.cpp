@@ -10,24 +10,38 @@
 
 using socle::texte;
 
+namespace {
+
+struct barre {
+  texte<3> label;
+  int diametre_mm;
+};
+constexpr std::array<barre, 9> barres = {{{"_10", 10},
+                                          {"_12", 12},
+                                          {"_14", 14},
+                                          {"_16", 16},
+                                          {"_20", 20},
+                                          {"_25", 25},
+                                          {"_32", 32},
+                                          {"_6", 6},
+                                          {"_8", 8}}};
+
+bool loc_commence_par_p(const texte<4>& label) { return label.entier().substr(0, 2) == "P_"; }
+
+const barre* loc_barre(const texte<4>& label) {
+  const texte<3> fin = label.entier().substr(1);
+  return std::find_if(barres.begin(), barres.end(), [&fin](const barre& b) { return b.label == fin; });
+}
+
+}  // namespace
+
+bool zof_est_label_selection(const texte<4>& label) {
+  return loc_commence_par_p(label) && loc_barre(label) != barres.end();
+}
+
 void zof_ajouter_selection(uef_vector& vecteur_selection, const texte<4>& label_selection) {
-  struct barre {
-    texte<3> label;
-    int diametre_mm;
-  };
-  constexpr std::array<barre, 9> barres = {{{"_10", 10},
-                                            {"_12", 12},
-                                            {"_14", 14},
-                                            {"_16", 16},
-                                            {"_20", 20},
-                                            {"_25", 25},
-                                            {"_32", 32},
-                                            {"_6", 6},
-                                            {"_8", 8}}};
-  zof_assert(label_selection.entier().substr(0, 2) == "P_", " ZOF_Ajouter_selection : Cas impossible 1");
-  const texte<3> fin = label_selection.entier().substr(1);
-  const auto* const trouvee =
-      std::find_if(barres.begin(), barres.end(), [&fin](const barre& b) { return b.label == fin; });
+  zof_assert(loc_commence_par_p(label_selection), " ZOF_Ajouter_selection : Cas impossible 1");
+  const barre* const trouvee = loc_barre(label_selection);
   zof_assert(trouvee != barres.end(), " ZOF_Ajouter_selection : Cas impossible 2");
 
   zof_selection_acier selection;

@@ -13,6 +13,9 @@ struct zof_selection_acier : uef_element<zof_selection_acier> {
   double m_aire_acier = socle::non_renseigne;  ///< of the group, m2
 };
 
+/// Whether the catalogue has this label: "P_" and a diameter in millimetres.
+bool zof_est_label_selection(const socle::texte<4>& label);
+
 /// Appends the entry of a label: "P_" and a diameter in millimetres, "P_6 ", "P_8 ", "P_10" to "P_32".
 /// Another label ends the run.
 void zof_ajouter_selection(uef_vector& vecteur_selection, const socle::texte<4>& label_selection);

@@ -28,3 +28,13 @@ int grille_points::rang_proche(point_yz p) const {
 }
 
 void grille_points::ajouter(point_yz p, int rang) { points_.emplace(carre_de(p), point_range{p, rang}); }
+
+void grille_points::retirer(point_yz p) {
+  const auto [debut, fin] = points_.equal_range(carre_de(p));
+  for (auto q = debut; q != fin; ++q) {
+    const point_yz position = q->second.position;
+    if (position.y != p.y || position.z != p.z) continue;
+    points_.erase(q);
+    return;
+  }
+}

@@ -16,6 +16,8 @@ class grille_points {
   [[nodiscard]] bool existe_proche(point_yz p) const { return rang_proche(p) != 0; }
   /// Ranks are above 0; several points may have the same.
   void ajouter(point_yz p, int rang = 1);
+  /// Takes out a point that was added, whatever its rank.
+  void retirer(point_yz p);
 
  private:
   struct carre {

@@ -2,6 +2,7 @@
 
 #include "Zof_Classe_Materiau.hpp"
 #include "Zof_Erreurs.hpp"
+#include "Zof_Gestion_Ferraillage_Automatique.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Utilit.hpp"
 
@@ -36,6 +37,7 @@ void zof_contour::traiter_zone(bool& erco) {
   if (erco) return;
   m_type_zone_qb7 = qb7_zone_contour;
   finaliser_zone(erco);
+  if (!erco) zof_traiter_ferraillages_automatiques_ou_en_lits(*this, erco);
 }
 
 bool zof_contour::point_interieur_zone(point_yz p) const { return contour_.contient(p); }

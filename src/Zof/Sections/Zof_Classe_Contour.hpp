@@ -6,6 +6,7 @@
 
 struct zof_contour : uef_element<zof_contour, zof_zone> {
   grille_points m_barres;  // bars of all zones that stand in the contour, as far as they are complete
+  grille_points m_barres_automatiques;  // those of them that were laid along its sides
 
   [[nodiscard]] nature_zone nature() const override { return nature_zone::contour; }
   [[nodiscard]] std::string_view intitule() const override { return "Contour"; }

@@ -72,6 +72,11 @@ void zof_zone::ajouter_points(int premier_numero, const polygone& positions, boo
   }
 }
 
+void zof_zone::retirer_points() {
+  m_les_points_zone.vider();
+  positions_points_.clear();
+}
+
 int zof_zone::position_point(int numero) const {
   const auto trouve = positions_points_.find(numero);
   return trouve == positions_points_.end() ? 0 : trouve->second;

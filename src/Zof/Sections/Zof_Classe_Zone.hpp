@@ -92,7 +92,10 @@ struct zof_zone : zof_zone_generalisee {
   virtual void decoder_profils(bool& erco);
   /// Bars that one point stands for, given with a line or an arc of bars.
   virtual void decoder_groupe(bool& erco);
-  void decoder_points(bool& erco);
+  virtual void decoder_points(bool& erco);
+  /// Bars laid along the sides of a contour: OPTI, and one layer of them: LITS.
+  virtual void decoder_options_ferraillage(bool& erco);
+  virtual void decoder_lits(bool& erco);
   /// A point whose number has been announced by NUME, or is still to be given in its block.
   void decoder_point(bool numero_annonce, bool& erco);
   void decoder_droite(bool& erco);
@@ -124,6 +127,8 @@ struct zof_zone : zof_zone_generalisee {
   void ajouter_point(int numero, point_yz position, bool& erco);
   /// Appends points numbered from premier_numero on.
   void ajouter_points(int premier_numero, const polygone& positions, bool& erco);
+  /// The zone is without points; what the engine holds of them stays.
+  void retirer_points();
   /// Position of the point of that number, from 1; 0 if there is none.
   [[nodiscard]] int position_point(int numero) const;
   [[nodiscard]] polygone positions_points() const;

@@ -113,6 +113,8 @@ void loc_lire_mot(bloc_zone& bloc, const texte<4>& mot, bool& erco) {
     case "AIRE"_mot: return zone.decoder_aire(erco);
     case "PROF"_mot: return zone.decoder_profils(erco);
     case "POIN"_mot: return loc_lire_points(zone, erco);
+    case "OPTI"_mot: return zone.decoder_options_ferraillage(erco);
+    case "LITS"_mot: return zone.decoder_lits(erco);
     case "PART"_mot: return loc_lire_partielle(zone, erco);
     default: break;
   }
@@ -176,6 +178,10 @@ void zof_zone::decoder_dimensionnable(bool& erco) { zof_attribut_incorrect("DIME
 void zof_zone::decoder_aire(bool& erco) { zof_attribut_incorrect("AIRE", erco); }
 void zof_zone::decoder_profils(bool& erco) { zof_attribut_incorrect("PROF", erco); }
 void zof_zone::decoder_groupe(bool& erco) { zof_attribut_incorrect("GROU", erco); }
+void zof_zone::decoder_options_ferraillage(bool& erco) {
+  zof_attribut_incorrect("OPTION_FERRAILLAGE_AUTOMATIQUE", erco);
+}
+void zof_zone::decoder_lits(bool& erco) { zof_attribut_incorrect("LITS", erco); }
 
 int zof_zone::lire_materiau(bool& erco) {
   zof_non_repetition_chaine("MATE", m_nom_materiau_zone, erco);

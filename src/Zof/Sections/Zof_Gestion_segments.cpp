@@ -86,6 +86,16 @@ void loc_decrire_coins(std::vector<zof_segment>& cotes) {
 
 // ---- Faces
 
+// A coordinate that differs from the middle by less is at it: the vertices of a circle are so up to rounding,
+// and both halves of a symmetric section go to the same faces.
+constexpr double tolerance_milieu = 1e-9;  // m
+
+// -1 below the middle, 0 at it, 1 above.
+int loc_cote_du_milieu(double valeur, double milieu) {
+  if (valeur < milieu - tolerance_milieu) return -1;
+  return valeur > milieu + tolerance_milieu ? 1 : 0;
+}
+
 // 0 for a horizontal side; acos gives no number where rounding takes its cosine beyond 1.
 double loc_angle_horizontal(const zof_segment& cote) {
   const double angle = zof_angle_reduit_vecteurs(zof_angle_segment_vecteur(cote, {1, 0}));
@@ -113,11 +123,11 @@ void zof_selectionner_segments_contour(const uef_vector& les_points_zone, int le
   loc_decrire_coins(cotes);
   for (const zof_segment& cote : cotes) {
     const vecteur_yz sens = zof_vecteur_segment(cote);
-    const double z_1 = cote.m_le_point_origine.m_z - z_milieu;
-    const double z_2 = cote.m_le_point_extremite.m_z - z_milieu;
-    const bool lateral = (z_1 < 0 && z_2 > 0) || (z_1 > 0 && z_2 < 0);
-    const bool droite = cote.m_le_centre.m_y >= y_milieu;
-    const bool sup = cote.m_le_centre.m_z >= z_milieu;
+    const int bout_1 = loc_cote_du_milieu(cote.m_le_point_origine.m_z, z_milieu);
+    const int bout_2 = loc_cote_du_milieu(cote.m_le_point_extremite.m_z, z_milieu);
+    const bool lateral = bout_1 * bout_2 < 0;
+    const bool droite = loc_cote_du_milieu(cote.m_le_centre.m_y, y_milieu) >= 0;
+    const bool sup = loc_cote_du_milieu(cote.m_le_centre.m_z, z_milieu) >= 0;
     const double angle = loc_angle_horizontal(cote);
     const bool vers_l_exterieur = lateral ? (sens.z > 0) == droite && angle > angle_horizontal_max
                                           : (sens.y < 0) == sup && angle < angle_horizontal_max;

@@ -137,6 +137,13 @@ TEST(Segments, BoutAMiHauteur) {
   EXPECT_THAT(f.gauche, IsEmpty());
   EXPECT_THAT(f.inf, ElementsAre(1, 4));
   EXPECT_THAT(f.sup, ElementsAre(2, 3));
+  const faces arrondi = trier({{0, -1}, {1, 1e-16}, {0, 1}, {-1, -1e-16}}, false);
+  EXPECT_THAT(arrondi.droite, IsEmpty());
+  EXPECT_THAT(arrondi.inf, ElementsAre(1, 4));
+  // A horizontal side at mid-height is at the top.
+  const faces escalier = trier({{0, -1}, {1, -1}, {1, -1e-16}, {2, -1e-16}, {2, 1}, {0, 1}}, false);
+  EXPECT_THAT(escalier.sup, ElementsAre(3, 4, 5));
+  EXPECT_THAT(escalier.gauche, ElementsAre(6));
 }
 
 // The mouth of a slot in the right side: the part of the outline that looks inwards is not on a strict face.
