@@ -1,43 +1,14 @@
 #include "And_anadon.hpp"
 
-#include <algorithm>
-
 #include "And_echo.hpp"
 #include "And_files.hpp"
 #include "And_langage.hpp"
-#include "Lxs_lexica.hpp"
+#include "And_termes.hpp"
 
 namespace {
 
 /// Text of the current term.
-std::string_view loc_texte() {
-  return and_global.and_var_chaine.entier().substr(0, static_cast<std::size_t>(and_global.and_lg_terme));
-}
-
-void loc_mettre_nom_en_majuscules() {
-  const std::string_view nom = loc_texte();
-  lex_ligne tampon{};
-  std::copy(nom.begin(), nom.end(), tampon.begin());
-  lxs_z_majuscule({tampon.data(), nom.size()});
-  and_global.and_var_chaine = std::string_view(tampon.data(), nom.size());
-}
-
-/// The quotes around the string leave, and one of two in a row inside; an empty string becomes one blank.
-void and_dequoter_chaine_donnee() {
-  const std::string_view brute = loc_texte();
-  lex_ligne tampon{' '};
-  std::size_t n = 1;
-  if (brute.size() >= 3) {
-    const char quote = brute.front();
-    n = 0;
-    for (std::size_t i = 1; i + 1 < brute.size(); ++i) {
-      tampon[n++] = brute[i];
-      if (brute[i] == quote && brute[i + 1] == quote) ++i;
-    }
-  }
-  and_global.and_var_chaine = std::string_view(tampon.data(), n);
-  and_global.and_lg_terme = static_cast<int>(n);
-}
+std::string_view loc_texte() { return and_texte(and_global); }
 
 /// The next finished term, from the data file if none is waiting.
 void loc_prendre_terme_fini() {
@@ -50,7 +21,7 @@ void loc_prendre_terme_fini() {
 /// Appends the current term to the phrase; a phrase that is too long is dropped for the error that says so.
 void loc_ajouter_a_la_phrase() {
   and_global_t& g = and_global;
-  if (g.and_type_terme == type_terme::nom) loc_mettre_nom_en_majuscules();
+  if (g.and_type_terme == type_terme::nom) and_mettre_nom_en_majuscules();
   if (g.and_type_terme == type_terme::chaine && g.and_mode_dequoter) and_dequoter_chaine_donnee();
   and_ecriture(1, 1);
   if (g.and_type_terme != type_terme::erreur_capacite || !g.and_mode_phrase) return;

@@ -23,18 +23,25 @@ void loc_message(vue_l1 ligne) {
   if (and_global.and_unite_echo_messages != nullptr) and_global.and_unite_echo_messages->ligne(ligne);
 }
 
-/// The text in pieces of at most `largeur` characters, cut at the last blank inside; a piece starts with a
-/// character that isn't blank.
+/// Where the text's first line ends: a unit may run on over several.
+std::size_t loc_fin_de_ligne(std::string_view texte) {
+  return std::min(texte.find(lex_code_fin_ligne), texte.size());
+}
+
+/// The text in pieces of at most `largeur` characters, cut at a line end or the last blank inside; a piece
+/// starts with a character that isn't blank.
 void loc_decouper(std::string_view texte, int largeur, and_routine_echo routine) {
   const auto limite = static_cast<std::size_t>(largeur);
   for (texte = sans_blancs_initiaux(texte); !texte.empty(); texte = sans_blancs_initiaux(texte)) {
-    std::size_t coupe = texte.size();
+    std::size_t coupe = loc_fin_de_ligne(texte);
     if (coupe > limite) {
       coupe = texte.substr(0, limite).rfind(' ');
       if (coupe == std::string_view::npos) coupe = limite;
     }
-    routine(sans_blancs_finals(texte.substr(0, coupe)));
+    const std::string_view piece = sans_blancs_finals(texte.substr(0, coupe));
+    if (!piece.empty()) routine(piece);
     texte.remove_prefix(coupe);
+    if (texte.starts_with(lex_code_fin_ligne)) texte.remove_prefix(1);
   }
 }
 

@@ -104,7 +104,7 @@ void loc_ranger(const vue_file& v, int place) {
 /// The queue counts as full from now on: who takes from it what never came in meets a capacity error.
 void loc_saturer(const vue_file& v, int valeur) {
   for (int rang = v.q.nombre + 1; rang <= v.q.capacite; ++rang) {
-    v.entree(v.place(rang)) = {type_terme::erreur_capacite, 0, 0};
+    v.entree(v.place(rang)) = {type_terme::erreur_capacite, v.q.nb_caracteres + 1, 0};
     v.entier(v.place(rang)) = valeur;
   }
   v.q.nombre = v.q.capacite;
@@ -157,12 +157,21 @@ void and_defiler_tete(const vue_file& v) {
   }
 }
 
-void loc_defiler_queue(const vue_file& v) {
+/// The last entry leaves, with its text and the blank before it.
+void loc_retirer_queue(const vue_file& v) {
   const int place = v.q.queue;
-  loc_servir(v, place);
   v.q.nb_caracteres = std::max(v.entree(place).debut_texte - 1, 0);
   v.q.queue = place == 1 ? v.q.capacite : place - 1;
   if (--v.q.nombre == 0) loc_vider(v.q);
+}
+
+void loc_defiler_queue(const vue_file& v) {
+  loc_servir(v, v.q.queue);
+  loc_retirer_queue(v);
+}
+
+bool loc_est_pleine(const vue_file& v, int lg_terme) {
+  return v.q.nombre >= v.q.capacite || v.q.nb_caracteres + lg_terme + 1 > v.q.capacite_caracteres;
 }
 
 /// The next term of the data file, or once more the last one: it then goes into the queue only if it left it
@@ -179,6 +188,15 @@ void loc_lire_entree(int file) {
     g.and_dernier_terme_lu = static_cast<const and_terme_t&>(g);
   }
   g.and_file_dernier_terme = file;
+}
+
+/// The last term read belongs to the unit that follows: it leaves the queue of this one.
+void loc_rendre_entree() {
+  and_global_t& g = and_global;
+  g.and_relecture_demandee = true;
+  if (g.and_file_dernier_terme == 0 || and_classe(g.and_dernier_terme_lu.and_type_terme) == 4) return;
+  loc_retirer_queue(loc_file(2, g.and_file_dernier_terme, "reconsulter"));
+  g.and_file_dernier_terme = 0;
 }
 
 /// Name of a queue in messages.
@@ -259,7 +277,7 @@ void and_ecriture(int classe, int file) {
   const vue_file v = loc_file(classe, file, "ecriture");
   and_global_t& g = and_global;
   if (classe == 1 && file == 1) and_formater_terme();
-  if (v.q.nombre >= v.q.capacite || v.q.nb_caracteres + g.and_lg_terme + 1 > v.q.capacite_caracteres) {
+  if (loc_est_pleine(v, g.and_lg_terme)) {
     loc_saturer(v, 100 * classe + file);
     loc_depassement(classe, file);
     return;
@@ -267,6 +285,16 @@ void and_ecriture(int classe, int file) {
   ++v.q.nombre;
   v.q.queue = v.place(v.q.nombre);
   loc_ranger(v, v.q.queue);
+}
+
+void and_ecriture_erreur(int file) {
+  const vue_file v = loc_file(3, file, "ecriture");
+  while (loc_est_pleine(v, and_global.and_lg_terme)) {
+    const and_entree_t& derniere = v.entree(v.q.queue);
+    if (and_classe(derniere.type) == 4 && derniere.longueur > 0) return;
+    loc_retirer_queue(v);
+  }
+  and_ecriture(3, file);
 }
 
 void and_lecture(int classe, int file, int mode) {
@@ -308,7 +336,7 @@ void and_consulter(int classe, int file, int mode) {
 void and_reconsulter(int classe, int file) {
   if (classe == 0) {
     if (file != 1) loc_faute_interne("reconsulter");
-    and_global.and_relecture_demandee = true;
+    loc_rendre_entree();
     return;
   }
   loc_file(classe, file, "reconsulter").q.etat = etat_relecture;

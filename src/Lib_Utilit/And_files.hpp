@@ -13,6 +13,10 @@
 /// term one of type erreur_capacite, and counts as full from then on.
 void and_ecriture(int classe, int file);
 
+/// Appends the current term, an error, to FILE `file` and makes room for it if there is none: values at the
+/// tail are lost for it, for who reads the queue must find it. An error that stands there already is enough.
+void and_ecriture_erreur(int file);
+
 /// Takes a term out: from the head (mode 1), where a series is given value by value, or from the tail (mode
 /// -1), where entries are given as they stand.
 void and_lecture(int classe, int file, int mode);
@@ -23,7 +27,7 @@ void and_lecture(int classe, int file, int mode);
 void and_consulter(int classe, int file, int mode);
 
 /// The term consulted last will be served again by `and_consulter` with mode 0; on class 0, number 1, the
-/// last term read.
+/// last term read, which leaves its PREFILE until then.
 void and_reconsulter(int classe, int file);
 
 /// Empties a queue.

@@ -45,14 +45,39 @@ inline constexpr std::array<std::string_view, 17> and_liste_operateurs{
     "+", "-", "*", "(", ")", "**", "/", ",", ".", ":", "<", ">", "=", "A", "REP", "INC", "DIV"};
 inline constexpr int and_operateur_plus = 1;
 inline constexpr int and_operateur_moins = 2;
-inline constexpr int and_operateur_a = 14;      // the first of the four words
-inline constexpr int and_operateur_autre = 22;  // any other special character
+inline constexpr int and_operateur_fois = 3;
+inline constexpr int and_operateur_ouvrante = 4;
+inline constexpr int and_operateur_fermante = 5;
+inline constexpr int and_operateur_puissance = 6;
+inline constexpr int and_operateur_divise = 7;
+inline constexpr int and_operateur_virgule = 8;
+inline constexpr int and_operateur_inferieur = 11;
+inline constexpr int and_operateur_superieur = 12;
+inline constexpr int and_operateur_egal = 13;
+inline constexpr int and_operateur_a = 14;  // the first of the four words
+inline constexpr int and_operateur_rep = 15;
+inline constexpr int and_operateur_inc = 16;
+inline constexpr int and_operateur_div = 17;
+// Internal ones of the data language.
+inline constexpr int and_operateur_rep_inc = 18;   // INC behind REP
+inline constexpr int and_operateur_nom = 19;       // a name just read in an expression
+inline constexpr int and_operateur_fonction = 20;  // the bracket of a function call
+inline constexpr int and_operateur_debut = 21;     // start of a list term
+inline constexpr int and_operateur_autre = 22;     // any other special character
 
 inline constexpr int and_lg_chaine = 201;  // the longest term
 inline constexpr int and_nb_files_par_classe = 10;
 inline constexpr int and_nb_termes_total = 166109;  // of all queues
 inline constexpr int and_nb_caracteres_total = 664436;
 inline constexpr int and_lg_message = 80;
+
+inline constexpr int and_lg_nom_variable = 16;
+inline constexpr int and_nb_maxi_niveaux = 9;                // levels of a directed list
+inline constexpr int and_nb_maxi_variables_globales = 2000;  // names
+inline constexpr int and_nb_maxi_affectations = 1999;        // values that they were given
+inline constexpr int and_premiere_globale =
+    and_nb_maxi_niveaux + 1;  // slots before it: the levels' variables
+inline constexpr int and_nb_cases_variables = and_nb_maxi_niveaux + and_nb_maxi_variables_globales;
 
 /// A term: what all layers pass on.
 struct and_terme_t {
@@ -63,6 +88,10 @@ struct and_terme_t {
   socle::texte<and_lg_chaine> and_var_chaine;  // text of the term as read, or a message
   int and_lg_terme = 0;                        // its length; 0: a computed number that has no text yet
 };
+
+constexpr bool and_est_operateur(const and_terme_t& t, int numero) {
+  return t.and_type_terme == type_terme::operateur && t.and_var_entier_ou_operateur == numero;
+}
 
 /// Control record of a queue. It is a ring: places run from 1 to `capacite` and wrap round.
 struct and_controle_file_t {
@@ -118,6 +147,14 @@ struct and_modes_t {
   socle::sortie* and_unite_echo_messages = nullptr;
 };
 
+/// The last clothoid: its second coordinate is asked for right after the first.
+struct clotho_t {
+  bool connue = false;
+  double a = 0, r = 0, s = 0;
+  double x = 0, y = 0;
+  bool erreur = false;
+};
+
 template <class T>
 using and_table_files = std::array<std::array<T, and_nb_files_par_classe>, 3>;
 
@@ -128,8 +165,16 @@ struct and_global_t : and_terme_t, and_modes_t {
   socle::texte<200> and_ligne_analysee;  // a line of the echo
   int and_niveau_erreur = 0;
   int and_position_erreur = 0;
-  int and_nb_niveaux = 1;
-  int and_nb_variables = 0;
+
+  // Variables: the first slots are those of the levels of a directed list, innermost first, then the global
+  // ones.
+  std::array<socle::texte<and_lg_nom_variable>, and_nb_cases_variables> and_noms_variables;
+  std::array<int, and_nb_cases_variables> and_positions_variables{};  // of the value, in LISTE 2
+  int and_nb_variables = 0;                                           // global ones
+  std::array<int, and_nb_maxi_niveaux> and_nb_affectations{};         // values that a level has taken so far
+  int and_nb_niveaux = 1;  // 1 and the levels of the directed list in progress
+  clotho_t dernier_clotho;
+
   int and_debut_echo = 1;
   int and_lg_echo = 0;
 
