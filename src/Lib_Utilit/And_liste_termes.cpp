@@ -137,11 +137,12 @@ and_resultat loc_finir(liste_termes& l) {
 
 /// A bracket: several values make a whole unit, one becomes the current term.
 and_resultat loc_parenthese(const liste_termes& l) {
+  const int nb_termes = and_nb_termes(3, l.file);
   const and_resultat resultat = and_analyse_liste_expressions(l.classe, l.file);
   if (resultat == and_resultat::une_valeur) and_lecture(3, l.file, -1);
-  if (resultat == and_resultat::plusieurs && l.and_op_precedent != and_operateur_debut)
-    return loc_erreur_dans_la_liste(l);
-  return resultat;
+  if (resultat != and_resultat::plusieurs || l.and_op_precedent == and_operateur_debut) return resultat;
+  while (and_nb_termes(3, l.file) > nb_termes) and_lecture(3, l.file, -1);
+  return loc_erreur_dans_la_liste(l);
 }
 
 }  // namespace
