@@ -232,6 +232,24 @@ TEST_F(LoiGenerique, Refus) {
   EXPECT_THAT(c.console, HasSubstr("TERME LU INCORRECT : NON ENTIER REEL OU REEL DOUBLE"));
 }
 
+// A law ends on any word in FIN_: the end of its situation, if its own is left out, and the material's end is
+// then met inside the situation.
+TEST_F(LoiGenerique, FinsOubliees) {
+  verifier_arret(generique("SITU EXPL SERV TITR 's' CARA INTE EPSI 0. FIN_INTE FIN_SITU"),
+                 "Erreur de commande : \n     - FIN_MATEIncorrect dans ce contexte - Attendu : FIN_SITU\n"
+                 "ARRET PREMATURE DE ZOF");
+  verifier_arret(generique("SITU EXPL SERV TITR 's' CARA INTE EPSI 0. FIN_ FIN_SITU"),
+                 "Erreur de commande : \n     - FIN_    Incorrect dans ce contexte - Attendu : FIN_INTE\n"
+                 "ARRET PREMATURE DE ZOF");
+  verifier_refus(loi("INTE EPSI 0. FIN_INTE FREQ"), mot_incorrect("FREQ"));
+  verifier_refus(loi("INTE EPSI 0. INTE"), mot_incorrect("INTE"));
+  for (const std::string mots : {"MATE SPEC", "MATE SPEC X SITU", "MATE SPEC X SITU EXPL SERV CARA",
+                                 "MATE SPEC X SITU EXPL SERV CARA INTE EPSI 0.", "MATE CHAR X FY 355. FU"}) {
+    const course c = executer("ZOF\n" + mots + "\n");
+    EXPECT_THAT(c.console, HasSubstr("    ERREUR : FIN PREMATUREE  DU FICHIER DE DONNEES\n")) << mots;
+  }
+}
+
 // A strain that stands twice is a vertical branch, which no strain plane could follow; the strain of the
 // first piece takes no part.
 TEST_F(LoiGenerique, LOrdreDesPieces) {
@@ -389,6 +407,22 @@ TEST(SectionGenerique, LoisSansMatiere) {
       EXPECT_THAT(c.listing, HasSubstr("Execution de Zof terminee"));
     }
   }
+}
+
+// Zones of every kind take a generic material: contour, bars, tendons, profiles.
+TEST(SectionGenerique, ToutesLesZones) {
+  const course c = executer_bloc(
+      loi_lineaire +
+      "\nSECT R TITR 'Tout' CONT AME TITR 'Ame' MATE LOI RECT HAUT 0.6D0 LARG 0.3D0 FIN_RECT\n"
+      "FERR LIT TITR 'Lit' MATE LOI DIAM 20. POIN NUME 11 Y -0.1D0 Z -0.2D0 FIN_ FIN_POIN FIN_FERR\n"
+      "PREC CABLE TITR 'Cable' MATE LOI AIRE 1500. POIN NUME 12 Y 0.1D0 Z -0.2D0 FIN_ FIN_POIN FIN_PREC\n"
+      "CHAR PROFIL TITR 'Profil' MATE LOI POIN NUME 13 Y 0. Z -0.1D0 FIN_ NUME 14 Y 0. Z 0.1D0 FIN_ "
+      "FIN_POIN\n"
+      "PROF NUME 1 ORIG 13 EXTR 14 EPAI 10. FIN_ FIN_PROF FIN_CHAR FIN_CONT FIN_SECT\nEDIT SECT TOUT\nEDIT "
+      "MATE");
+  EXPECT_EQ(c.statut, 0) << c.console;
+  // Bars and tendons put back what they take out; a profile counts once.
+  EXPECT_THAT(c.txt, HasSubstr("> Aire      (m2) : 0.18000"));
 }
 
 // A loading asks for a state or a situation that the material does not have.

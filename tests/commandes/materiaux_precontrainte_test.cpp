@@ -363,6 +363,21 @@ TEST_F(SituationPrecontrainte, LeMoteurRefuseUneLoiImpossible) {
     EXPECT_EQ(executer_bloc(situation_precontrainte(mots)).statut, 1);
 }
 
+// The greatest and the least numbers that the reader takes: a law, or a refusal of the engine.
+TEST_F(SituationPrecontrainte, NombresExtremes) {
+  for (const std::string resistances : {"FP01 1.D74 FPK 1.D75", "FP01 1.D-75 FPK 1.D75"}) {
+    for (const std::string mots :
+         {"ELU BILI", "ELS BILI", "PARA MODU 1.D75 FIN_", "ELS BILI PARA MODU 1.D-75 FIN_",
+          "ELS BILI PARA COEF ELU PARF PART 1.D75 FIN_", "PARA COEF ELU PARF PART 1.D-75 FIN_",
+          "ELU BILI PARA COEF ELU BILI CONT 1.D75 COEF ELU BILI DEFO 1.D75 DEFO ELU BILI RUPT 1.D75 FIN_",
+          "ELS BILI PARA COEF ELS CARA COMP 1.D75 COEF ELS CARA TRAC 0. FIN_"}) {
+      const course c = executer_bloc("MATE PREC T TITR 't' " + resistances + " SITU EXPL SERV TITR 's'\n" +
+                                     mots + "\nFIN_SITU FIN_MATE EDIT MATE");
+      EXPECT_TRUE(c.statut == 0 || c.console.find(" Erreur : ERR_") != std::string::npos) << c.console;
+    }
+  }
+}
+
 TEST_F(SituationPrecontrainte, UnTypeDeLoiInconnuArreteLaCourse) {
   lire(precontrainte(""));
   zof_situation_precontrainte_ec& s = la_situation("ACCIDENT");
