@@ -72,7 +72,9 @@ TEST(FormesTypees, PointsEtProprietesDesValeursIndependantes) {
     // Slopes as wide as the flange: the outline is that of the formulas, and the command refuses it.
     if (t.texte(i, "case") == "i_sy_4") {
       const table_en_i table{1.2, 0.2, 0.3, 0.475};
-      comparer(points_contour(forme_en_i{2.2, 0.25, table, table}), lire_points(t.texte(i, "outer_points")));
+      const polygone contour = points_contour(forme_en_i{2.2, 0.25, table, table});
+      comparer(contour, lire_points(t.texte(i, "outer_points")));
+      EXPECT_NEAR(aire_polygone(contour), t.reel(i, "area"), tolerance(t.reel(i, "area")));
       EXPECT_FALSE(lue);
       continue;
     }
