@@ -300,17 +300,17 @@ TEST(Symetrie, UneMoitieDesDeuxCotesDeLAxeSeRecouvre) {
           std::string(" l aire de la zone C1  est  négative :-0.40000       "_l1));
 }
 
-// Images are numbered behind the points that are there; there are no numbers beyond 99999.
+// 50 000 points and their images, numbered behind them, would need a number beyond the last.
 TEST(Symetrie, LesNumerosDesImagesOntUneFin) {
-  const auto ligne = [](int nume, int nombre) {
-    return dans_un_contour("RECT HAUT 200. LARG 200. FIN_ FERR F1 MATE B500 DIAM 8. PART POIN DROI NUME " +
-                               std::to_string(nume) + " NOMB " + std::to_string(nombre) +
-                               "\nY_OR -99. Z_OR 1. Y_EX 99. Z_EX 1. FIN_ FIN_POIN FIN_FERR",
-                           "SYME Y");
+  const auto ligne = [](int nombre) {
+    return dans_un_contour(
+        "RECT HAUT 200. LARG 200. FIN_ FERR F1 MATE B500 DIAM 8. PART POIN DROI NUME 1 NOMB " +
+            std::to_string(nombre) + "\nY_OR -99. Z_OR 1. Y_EX 99. Z_EX 1. FIN_ FIN_POIN FIN_FERR",
+        "SYME Y");
   };
-  refuser(ligne(40002, 59998) + "EDIT", " Numero de point incorrect >99999");
-  const auto m = lire(ligne(1, 59999));
-  EXPECT_EQ(zof_get_pt_section("S1")->numero_point_max_section(), 99999);
+  refuser(ligne(50000), " Numero de point incorrect >99999");
+  const auto m = lire(ligne(49999));
+  EXPECT_EQ(zof_get_pt_section("S1")->numero_point_max_section(), 99998);
 }
 
 // ---- What lies in what
