@@ -66,12 +66,12 @@ TEST_P(Manuel, TourneCommeIlEstImprime) {
     ASSERT_EQ(e.genre, "refus");
     const course c = executer(socle() + e.texte + "FIN_\n");
     EXPECT_EQ(c.statut, 1) << c.console;
-    EXPECT_NE(c.listing.find(message_annonce(e.texte)), std::string::npos) << c.listing;
+    EXPECT_NE(c.console.find(message_annonce(e.texte)), std::string::npos) << c.console;
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Exemples, Manuel, testing::ValuesIn(lire_exemples()),
-                         [](const auto& cas) { return cas.param.genre + "_ligne_" + std::to_string(cas.param.ligne); });
-
+INSTANTIATE_TEST_SUITE_P(Exemples, Manuel, testing::ValuesIn(lire_exemples()), [](const auto& cas) {
+  return cas.param.genre + "_ligne_" + std::to_string(cas.param.ligne);
+});
 
 }  // namespace
