@@ -11,6 +11,7 @@
 #include "QB7_Acces.hpp"
 #include "QB7_ERR_Erreurs.hpp"
 #include "QB7_Efforts.hpp"
+#include "QB7_Efforts_Generalises.hpp"
 #include "QB7_GBD_SECT.hpp"
 #include "QB7_PAR_Parametres.hpp"
 #include "Systeme.hpp"
@@ -22,6 +23,11 @@ void qb7_quitter() {
   eff_vider();
   gbd_glob_reinitialiser();
   par_renitialiser();
+}
+
+void qb7_g_quitter() {
+  eff_g_vider();
+  qb7_quitter();
 }
 
 void qb7_reinit_loi() {
@@ -402,7 +408,7 @@ ier_2 qb7_lire_fluante(int num_section, int num_zone, bool& fluante) {
 
 ier_2 qb7_fixer_c_fluage(int num_section, int num_zone, double c_fluage) {
   return qb7_sur_zone("QB7_Fixer_C_Fluage", num_section, num_zone, [&](gbd_zone& zone) {
-    if (c_fluage < 0) return ier_2{ERR_FLUAGE, num_zone};
+    if (!std::isfinite(c_fluage) || c_fluage < 0) return ier_2{ERR_FLUAGE, num_zone};
     zone.c_fluage = c_fluage;
     return ier_2{};
   });

@@ -13,6 +13,7 @@
 // by a failure save what the comment says.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 
@@ -24,6 +25,9 @@
 /// Empties sections, laws and work tables, closes the trace, and resets the parameters as par_renitialiser
 /// does.
 void qb7_quitter();
+
+/// The same, and the work tables of creep.
+void qb7_g_quitter();
 
 /// Empties the list of laws.
 void qb7_reinit_loi();
@@ -136,7 +140,8 @@ ier_2 qb7_lire_dimensionnable(int num_section, int num_zone, bool& dimensionnabl
 ier_2 qb7_fixer_fluante(int num_section, int num_zone, bool fluante);
 ier_2 qb7_lire_fluante(int num_section, int num_zone, bool& fluante);
 
-/// Creep coefficient. ERR_FLUAGE (zone): negative.
+/// Creep strain per unit of stress, in the client's unit: φ(t, t0) / E_c with the creep coefficient φ and the
+/// tangent modulus E_c of EN 1992-1-1 3.1.4 (3). ERR_FLUAGE (zone): negative or not finite.
 ier_2 qb7_fixer_c_fluage(int num_section, int num_zone, double c_fluage);
 ier_2 qb7_lire_c_fluage(int num_section, int num_zone, double& c_fluage);
 
@@ -271,6 +276,33 @@ ier_2 qb7_deformer_section(int num_section, int num_etat_lim, const deformation&
 /// bornes alone: in equilibrium past a limit. Both are results: they do not end a run.
 ier_2 qb7_solliciter_section(bool bornes, int num_section, int num_etat_lim, const efforts& efforts_section,
                              deformation& deform_section);
+
+/// The planes by which a section that creeps came to rest under its permanent forces: the first without
+/// creep, each of the others with the creep of those before.
+struct qb7_histoire_fluage {
+  std::array<deformation, 10> tab_deform_section{};
+  int nb_tab_deform_section = 0;  ///< how many of them count
+};
+
+/// Plane in equilibrium with permanent forces once the zones that creep (qb7_fixer_fluante,
+/// qb7_fixer_c_fluage) have crept under it: EN 1992-1-1 3.1.4 (2) and (3), creep in proportion to the stress.
+/// deform_permanent_section is where the search begins, and its result; the history is what the routine below
+/// goes on from. The coding of the limits is not that of qb7_solliciter_section: ERR_EPSILON_LIM (zone), with
+/// bornes alone: a strain limit is passed; without bornes that is a success. ERR_EQUILIBRE: none found;
+/// ERR_EQUILIBRE_FLUAGE: ten planes have not come to rest; ERR_NON_AFF_BORNES, ERR_CALC_APPROX,
+/// ERR_LOI_APPROX: no affine approximation of the law of a zone that creeps. After a failure the history
+/// holds the planes tried.
+ier_2 qb7_solliciter_permanent_section(bool bornes, int num_section, int num_etat_lim,
+                                       const efforts& efforts_permanents_section,
+                                       deformation& deform_permanent_section, qb7_histoire_fluage& histoire);
+
+/// Plane in equilibrium with all forces, with the creep that the permanent ones have left: what they add
+/// finds the law without creep. deform_final_section and codes as above; the search had better begin at the
+/// permanent plane, since under the creep of the past the zero plane is one of tension. ERR_DIM_TAB (number
+/// of planes): not 0 to 10. Empties the work tables.
+ier_2 qb7_solliciter_final_section(bool bornes, int num_section, int num_etat_lim,
+                                   const qb7_histoire_fluage& histoire, const efforts& efforts_totaux_section,
+                                   deformation& deform_final_section);
 
 /// Largest k of [k_min, k_max] such that efforts_section + k delta_efforts is in equilibrium, within 1e-5.
 /// ERR_K_MIN: not even k_min is, and k is 0.

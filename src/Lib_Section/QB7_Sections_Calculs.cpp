@@ -5,7 +5,9 @@
 #include "QB7_Diagramme.hpp"
 #include "QB7_ERR_Erreurs.hpp"
 #include "QB7_Efforts.hpp"
+#include "QB7_Efforts_Generalises.hpp"
 #include "QB7_Equilibre.hpp"
+#include "QB7_Equilibre_Generalise.hpp"
 #include "QB7_GBD_SECT.hpp"
 #include "QB7_PAR_Parametres.hpp"
 #include "QB7_RDM.hpp"
@@ -145,6 +147,33 @@ ier_2 qb7_solliciter_section(bool bornes, int num_section, int num_etat_lim, con
       trace->ligne("");
     }
     return eff_solliciter_section(bornes, efforts_section, deform_section);
+  });
+}
+
+ier_2 qb7_solliciter_permanent_section(bool bornes, int num_section, int num_etat_lim,
+                                       const efforts& efforts_permanents_section,
+                                       deformation& deform_permanent_section, qb7_histoire_fluage& histoire) {
+  histoire = {};
+  return qb7_sur_section("QB7_Solliciter_Permanent_Section", num_section, [&](gbd_section& section) {
+    const ier_2 ier = eff_g_section_calcul(section, num_etat_lim);
+    return ier ? ier
+               : eff_solliciter_permanent_section(bornes, efforts_permanents_section,
+                                                  deform_permanent_section, histoire);
+  });
+}
+
+ier_2 qb7_solliciter_final_section(bool bornes, int num_section, int num_etat_lim,
+                                   const qb7_histoire_fluage& histoire, const efforts& efforts_totaux_section,
+                                   deformation& deform_final_section) {
+  return qb7_sur_section("QB7_Solliciter_Final_Section", num_section, [&](gbd_section& section) {
+    const int nb_deform = histoire.nb_tab_deform_section;
+    if (nb_deform < 0 || nb_deform > static_cast<int>(histoire.tab_deform_section.size()))
+      return ier_2{ERR_DIM_TAB, nb_deform};
+    ier_2 ier = eff_g_section_calcul(section, num_etat_lim);
+    if (!ier)
+      ier = eff_solliciter_final_section(bornes, histoire, efforts_totaux_section, deform_final_section);
+    eff_g_vider();
+    return ier;
   });
 }
 

@@ -16,6 +16,7 @@
 #include "Outils.hpp"
 #include "QB7_ERR_Erreurs.hpp"
 #include "QB7_Efforts.hpp"
+#include "QB7_Efforts_Generalises.hpp"
 #include "QB7_GBD_SECT.hpp"
 #include "QB7_Lois.hpp"
 #include "QB7_PAR_Parametres.hpp"
@@ -29,6 +30,7 @@ class moteur_vide : public testing::Test {
     qb7_par_reinitialiser();
     gbd_glob_reinitialiser();
     qb7_efforts_reinitialiser();
+    qb7_efforts_generalises_reinitialiser();
   }
 };
 

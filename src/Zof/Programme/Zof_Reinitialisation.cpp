@@ -20,7 +20,7 @@ void zof_reinitialiser() {
   zof_erreurs_reinitialiser();
   utl_02_reinitialiser();
   utl_04_reinitialiser();
-  qb7_quitter();
+  qb7_g_quitter();
   qb7_par_reinitialiser();
   qb7_err_reinitialiser();
   zof_options_reinitialiser();
