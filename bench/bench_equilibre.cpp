@@ -1,7 +1,7 @@
 // One equilibrium of a section, through the facade: work tables built, plane found. Reach: 10 us for the beam
 // of six bars; aim: 2 us. The others show the growth with points and with zones, which is linear, also when
-// the outline lists its points out of order; and what entering points costs, numbered upwards and, at its
-// dearest, downwards.
+// the outline lists its points out of order; the same beam with creep; and what entering points costs,
+// numbered upwards and, at its dearest, downwards.
 #include <benchmark/benchmark.h>
 
 #include <cmath>
@@ -65,15 +65,38 @@ void loc_solliciter(benchmark::State& state, const efforts& efforts_section) {
 }
 
 /// 0.30 x 0.60, 20 mm bars: six of them in three layers, in one zone.
-void poutre_de_six_barres(benchmark::State& state) {
-  loc_preparer();
+void loc_poutre_de_six_barres() {
   loc_creer_zone(1, qb7_zone_contour, beton, loc_rectangle(), 1, 1);
   loc_creer_zone(2, qb7_zone_semis, acier,
                  {{-0.1, -0.25}, {0.1, -0.25}, {-0.1, 0}, {0.1, 0}, {-0.1, 0.25}, {0.1, 0.25}}, 11, 1);
   loc_exiger(qb7_fixer_param_zone(section_1, 2, 3.14e-4, 0));
+}
+
+void poutre_de_six_barres(benchmark::State& state) {
+  loc_preparer();
+  loc_poutre_de_six_barres();
   loc_solliciter(state, {0.8, 0.12, -0.03});
 }
 BENCHMARK(poutre_de_six_barres)->Unit(benchmark::kMicrosecond);
+
+/// The same beam, its concrete with a creep coefficient of 2 (EN 1992-1-1 3.1.4) under the permanent half of
+/// its forces: the plane at rest, then that under all of them.
+void poutre_qui_flue(benchmark::State& state) {
+  loc_preparer();
+  loc_poutre_de_six_barres();
+  loc_exiger(qb7_fixer_fluante(section_1, 1, true));
+  loc_exiger(qb7_fixer_c_fluage(section_1, 1, 2.0 / 20000));
+  for (auto _ : state) {
+    deformation plan;
+    qb7_histoire_fluage histoire;
+    loc_exiger(
+        qb7_solliciter_permanent_section(true, section_1, etat_lim, {0.4, 0.06, -0.015}, plan, histoire));
+    loc_exiger(qb7_solliciter_final_section(true, section_1, etat_lim, histoire, {0.8, 0.12, -0.03}, plan));
+    benchmark::DoNotOptimize(plan);
+    state.counters["planes"] = histoire.nb_tab_deform_section;
+  }
+}
+BENCHMARK(poutre_qui_flue)->Unit(benchmark::kMicrosecond);
 
 void pieu_de_n_points(benchmark::State& state) {
   loc_preparer();
