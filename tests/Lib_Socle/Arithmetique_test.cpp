@@ -26,8 +26,13 @@ TEST(Arithmetique, PuissanceDix) {
   EXPECT_EQ(puissance_dix(0), 1.0);
   EXPECT_EQ(puissance_dix(22), 1e22);
   EXPECT_EQ(puissance_dix(-3), 1.0 / 1000.0);
-  EXPECT_NEAR(puissance_dix(286) / 1e286, 1.0, 1e-13);
-  EXPECT_NEAR(puissance_dix(-286) / 1e-286, 1.0, 1e-13);
+  EXPECT_EQ(puissance_dix(-22), 1e-22);
+  EXPECT_EQ(puissance_dix(23), 1e23) << "the first that is not exact";
+  EXPECT_EQ(puissance_dix(270), 1e270);
+  EXPECT_NEAR(puissance_dix(286) / 1e286, 1.0, 1e-15);
+  EXPECT_NEAR(puissance_dix(-286) / 1e-286, 1.0, 1e-15);
+  EXPECT_EQ(puissance_dix(400), INFINITY);
+  EXPECT_EQ(puissance_dix(-400), 0.0);
 }
 
 TEST(Arithmetique, IndicePartDeUn) { EXPECT_EQ(indice(1), 0U); }

@@ -5,7 +5,7 @@
 
 #include <cmath>
 #include <cstdio>
-#include <numbers>
+#include <limits>
 #include <string>
 #include <vector>
 
