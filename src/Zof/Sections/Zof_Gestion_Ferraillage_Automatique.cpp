@@ -31,8 +31,10 @@ using namespace socle;
 
 namespace {
 
-// Lengths that differ by less are equal: what the coordinates lose by rounding.
+// Spacings that differ by less are equal: what the coordinates lose by rounding.
 constexpr double tolerance_longueurs = 1e-9;  // m
+// A length that passes a limit by less holds it: both are written in single precision.
+constexpr double tolerance_limites = 1e-6;  // m
 // Spacings of a layout that design has changed hold within this.
 constexpr double tolerance_espacements = 0.001;  // m
 // Below this sine of half its angle a corner is a spike: no bar fits into it.
@@ -148,7 +150,7 @@ void loc_deplacer_bout(const zof_point& coin, bool coin_de_la_face, const retrai
 bool loc_garde_son_sens(const cote_ferraille& cote, const vecteur_yz& direction, double a) {
   const point_yz o = cote.origine_a(a);
   const point_yz e = cote.extremite_a(a);
-  return (e.y - o.y) * direction.y + (e.z - o.z) * direction.z >= -tolerance_longueurs;
+  return (e.y - o.y) * direction.y + (e.z - o.z) * direction.z >= -tolerance_limites;
 }
 
 bool loc_coin_ferraillable(const zof_point& coin) {
@@ -190,8 +192,8 @@ void loc_assert_nombre(double nombre, bool& erco) {
 // the greatest spacing holds: it limits the width of cracks and comes first (EN 1992-1-1 7.3.3). A spacing at
 // a limit, as far as the coordinates tell, holds.
 double loc_nombre_points_interieurs(double longueur, double distance_max, double distance_min) {
-  const double espacement_max = distance_max + tolerance_longueurs;
-  const double espacement_min = distance_min - tolerance_longueurs;
+  const double espacement_max = distance_max + tolerance_limites;
+  const double espacement_min = distance_min - tolerance_limites;
   double n = std::max(std::trunc(longueur / distance_max) - 1, 0.0);
   if (longueur / (n + 1) > espacement_max) {
     n += 1;
@@ -489,7 +491,7 @@ void zof_traiter_ferraillages_automatiques_ou_en_lits(zof_contour& contour, bool
 void zof_traiter_ferraillage_automatique(zof_ferraillage& zone, bool& erco) {
   const polygone positions = loc_poser(zone, zone.m_nb_points_par_lit, erco);
   if (erco) return;
-  if (!loc_espacements_verifies(zone, tolerance_longueurs)) loc_avertir(zone);
+  if (!loc_espacements_verifies(zone, tolerance_limites)) loc_avertir(zone);
   zone.placer_barres(positions, erco);
 }
 

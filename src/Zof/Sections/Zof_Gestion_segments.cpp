@@ -86,9 +86,11 @@ void loc_decrire_coins(std::vector<zof_segment>& cotes) {
 
 // ---- Faces
 
-// A coordinate that differs from the middle by less is at it: the vertices of a circle are so up to rounding,
-// and both halves of a symmetric section go to the same faces.
-constexpr double tolerance_milieu = 1e-9;  // m
+// A coordinate that differs from the middle by less is at it, an angle that differs from the limit by less is
+// equal to it: data are written in single precision, and both halves of a symmetric section go to the same
+// faces.
+constexpr double tolerance_milieu = 1e-6;  // m
+constexpr double tolerance_angle = 1e-6;   // rad
 
 // -1 below the middle, 0 at it, 1 above.
 int loc_cote_du_milieu(double valeur, double milieu) {
@@ -129,8 +131,9 @@ void zof_selectionner_segments_contour(const uef_vector& les_points_zone, int le
     const bool droite = loc_cote_du_milieu(cote.m_le_centre.m_y, y_milieu) >= 0;
     const bool sup = loc_cote_du_milieu(cote.m_le_centre.m_z, z_milieu) >= 0;
     const double angle = loc_angle_horizontal(cote);
-    const bool vers_l_exterieur = lateral ? (sens.z > 0) == droite && angle > angle_horizontal_max
-                                          : (sens.y < 0) == sup && angle < angle_horizontal_max;
+    const bool vers_l_exterieur =
+        lateral ? (sens.z > 0) == droite && angle > angle_horizontal_max + tolerance_angle
+                : (sens.y < 0) == sup && angle < angle_horizontal_max - tolerance_angle;
     if (vers_l_exterieur || !option_stricte) {
       if (lateral)
         (droite ? les_segments_droite : les_segments_gauche).ajouter(cote);

@@ -218,8 +218,9 @@ TEST(Pose, NombreDeBarres) {
   };
   // 0.52 m on each of the two sides.
   for (const cas& c :
-       {cas{"E_MA 0.52D0", 2}, cas{"E_MA 0.6D0", 2}, cas{"E_MA 0.5D0", 3}, cas{"E_MA 0.27D0", 3},
-        cas{"E_MA 0.25D0", 4}, cas{"E_MA 0.1D0", 7}, cas{"E_MA 0.055D0 E_MI 0.04D0", 11},
+       {cas{"E_MA 0.52D0", 2}, cas{"E_MA 0.13", 5}, cas{"E_MA 0.13D0", 5}, cas{"E_MA 0.1299D0", 6},
+        cas{"E_MA 0.6D0", 2}, cas{"E_MA 0.5D0", 3}, cas{"E_MA 0.27D0", 3}, cas{"E_MA 0.25D0", 4},
+        cas{"E_MA 0.1D0", 7}, cas{"E_MA 0.055D0 E_MI 0.04D0", 11},
         // 0.52/3 = 0.1733 < 0.18, but 0.26 > 0.2: the bar stays
         cas{"E_MA 0.2D0 E_MI 0.18D0", 4},
         // 0.52/2 = 0.26 < 0.3: one fewer would be 0.52 > 0.5: it stays

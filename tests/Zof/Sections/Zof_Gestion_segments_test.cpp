@@ -120,14 +120,27 @@ TEST(Segments, FacesStrictesEtFacesParParois) {
 TEST(Segments, AngleAvecLHorizontale) {
   const polygone losange{{0, -1}, {2, -0.5}, {2, 0.5}, {0, 1}, {-2, 0.5}, {-2, -0.5}};
   const double pente = std::atan(0.25);
-  EXPECT_THAT(trier(losange, true, pente + 1e-6).sup, ElementsAre(3, 4));
-  EXPECT_THAT(trier(losange, true, pente - 1e-6).sup, IsEmpty());
-  EXPECT_THAT(trier(losange, true, pente + 1e-6).inf, ElementsAre(1, 6));
+  EXPECT_THAT(trier(losange, true, pente + 2e-6).sup, ElementsAre(3, 4));
+  EXPECT_THAT(trier(losange, true, pente - 2e-6).sup, IsEmpty());
+  EXPECT_THAT(trier(losange, true, pente + 2e-6).inf, ElementsAre(1, 6));
   const polygone biseau{{0, -1}, {2, 1}, {-2, 1}};  // sides at 45 degrees across mid-height
-  EXPECT_THAT(trier(biseau, true, pi / 4 - 1e-6).droite, ElementsAre(1));
-  EXPECT_THAT(trier(biseau, true, pi / 4 - 1e-6).gauche, ElementsAre(3));
-  EXPECT_THAT(trier(biseau, true, pi / 4 + 1e-6).droite, IsEmpty());
-  EXPECT_THAT(trier(biseau, false, pi / 4 + 1e-6).droite, ElementsAre(1));
+  EXPECT_THAT(trier(biseau, true, pi / 4 - 2e-6).droite, ElementsAre(1));
+  EXPECT_THAT(trier(biseau, true, pi / 4 - 2e-6).gauche, ElementsAre(3));
+  EXPECT_THAT(trier(biseau, true, pi / 4 + 2e-6).droite, IsEmpty());
+  EXPECT_THAT(trier(biseau, false, pi / 4 + 2e-6).droite, ElementsAre(1));
+}
+
+// Chamfers at 45 degrees, up to the single precision of their coordinates, are on no strict face.
+TEST(Segments, AngleEgalALaLimite) {
+  constexpr double c = 0.02;
+  constexpr double e = 1e-9;
+  const polygone chanfreine{{c, 0},         {1 - c, 0}, {1, c + e},     {1, 1 - c},
+                            {1 - c - e, 1}, {c, 1},     {0, 1 - c + e}, {0, c}};
+  const faces f = trier(chanfreine, true);
+  EXPECT_THAT(f.inf, ElementsAre(1));
+  EXPECT_THAT(f.droite, ElementsAre(3));
+  EXPECT_THAT(f.sup, ElementsAre(5));
+  EXPECT_THAT(f.gauche, ElementsAre(7));
 }
 
 // An end at mid-height does not cross it: the sides of a diamond are at the top and at the bottom.
@@ -137,11 +150,11 @@ TEST(Segments, BoutAMiHauteur) {
   EXPECT_THAT(f.gauche, IsEmpty());
   EXPECT_THAT(f.inf, ElementsAre(1, 4));
   EXPECT_THAT(f.sup, ElementsAre(2, 3));
-  const faces arrondi = trier({{0, -1}, {1, 1e-16}, {0, 1}, {-1, -1e-16}}, false);
+  const faces arrondi = trier({{0, -1}, {1, 1e-8}, {0, 1}, {-1, -1e-8}}, false);
   EXPECT_THAT(arrondi.droite, IsEmpty());
   EXPECT_THAT(arrondi.inf, ElementsAre(1, 4));
   // A horizontal side at mid-height is at the top.
-  const faces escalier = trier({{0, -1}, {1, -1}, {1, -1e-16}, {2, -1e-16}, {2, 1}, {0, 1}}, false);
+  const faces escalier = trier({{0, -1}, {1, -1}, {1, -1e-8}, {2, -1e-8}, {2, 1}, {0, 1}}, false);
   EXPECT_THAT(escalier.sup, ElementsAre(3, 4, 5));
   EXPECT_THAT(escalier.gauche, ElementsAre(6));
 }
