@@ -168,6 +168,20 @@ TEST(Pose, FacesLaterales) {
   EXPECT_NEAR(zone().m_longueur_ferraillage, 1.04, 1e-15);
 }
 
+// A further layer stands beside the first, of the same height: the corners belong to the top and the bottom.
+TEST(Pose, FacesLateralesEnDeuxLits) {
+  modele m(poutre(automatique("DISP LATE STRI LITS 2 DIST 0.05D0 E_MA 1. " + r40)));
+  ASSERT_TRUE(m.lire()) << m.console();
+  verifier(positions(), {{0.11, -0.26},
+                         {0.11, 0.26},
+                         {-0.11, 0.26},
+                         {-0.11, -0.26},
+                         {0.06, -0.26},
+                         {0.06, 0.26},
+                         {-0.06, 0.26},
+                         {-0.06, -0.26}});
+}
+
 // Further layers all round close at their own corners.
 TEST(Pose, ToutAutourEnDeuxLits) {
   modele m(poutre(automatique("DISP PERI STRI LITS 2 DIST 0.05D0 " + r40)));
@@ -570,6 +584,10 @@ TEST(Pose, BarresConfondues) {
   const std::string automatiques = " Duplication de point : prevenir le gestionnaire";
   // Layers less than a millimetre apart.
   verifier_refus({{poutre(automatique("DISP SUPE STRI LITS 2 DIST 0.0005D0 " + r40)), automatiques}});
+  // The second layer of the contour meets the first one of the void, in the middle of both.
+  verifier_refus({{contour("REC_ HAUT 1.D0 LARG 1.2D0 E_SU 0.2D0 E_IN 0.2D0 EP_L 0.2D0 FIN_\n" +
+                           automatique("DISP INFE PARO E_MA 0.6D0 LITS 2 DIST 0.12D0 " + r40)),
+                   automatiques}});
   // The second layer at the top meets the bars at the bottom.
   verifier_refus({{poutre(automatique("DISP INFE STRI LITS 1 " + r40, "F1") +
                           automatique("DISP SUPE STRI LITS 2 DIST 0.52D0 " + r40, "F2")),
