@@ -336,6 +336,48 @@ TEST_F(EffortsGeneralises, LesLimitesJugentLaDeformationMecanique) {
   EXPECT_EQ(ier, (ier_2{ERR_EPSILON_LIM, 1}));
 }
 
+// Two zones that creep, both past their limit: the first in order of ranks keeps the code. A hole that
+// reaches out of its mother is no matter of hers, and has no limit.
+TEST_F(EffortsGeneralises, LaPremiereZoneEtElleSeuleDitSaLimite) {
+  creer_zone(1, 1, qb7_zone_contour, bilineaire, rectangle);
+  creer_zone(1, 2, qb7_zone_contour, bilineaire, evidement);
+  fluer(1, c_2);
+  fluer(2, c_2);
+  calculer();
+  ier_2 ier;
+  forces({{2e-3, 0, 0}, {5.6e-3, 0, 0}}, &ier);
+  EXPECT_EQ(ier, (ier_2{ERR_EPSILON_LIM, 1}));
+  reussit(qb7_supprimer_zone(1, 2));
+  creer_zone(1, 3, qb7_zone_contour, qb7_sans_materiau, {{0.05, 1}, {-0.05, 1}, {-0.05, 0.1}, {0.05, 0.1}});
+  reussit(qb7_fixer_num_zone_mere(1, 3, 1));
+  calculer();
+  forces({{0, 0, 0}, {0, 1e-2, 0}}, &ier);
+  EXPECT_EQ(ier, ier_2{});
+}
+
+// A diamond whose knot of zero strain passes through two of its corners, and a profile with a point on it.
+TEST_F(EffortsGeneralises, UnNoeudQuiPasseParUnSommet) {
+  creer_zone(1, 1, qb7_zone_contour, bilineaire, {{0.5, 0}, {0, 0.5}, {-0.5, 0}, {0, -0.5}});
+  creer_zone(1, 2, qb7_zone_profil, bilineaire, {{0, -0.5}, {0, 0}, {0, 0.5}});
+  reussit(qb7_fixer_param_zone(1, 2, 0.1));
+  fluer(1, c_2);
+  fluer(2, c_2);
+  calculer();
+  const fibre f = modele(bilineaire, c_2);
+  std::vector<fibre> fibres;
+  constexpr int n = 20000;
+  for (int i = 0; i < n; ++i) {
+    const double z = (i + 0.5) / n - 0.5;
+    fibres.push_back(f);
+    fibres.back().p = {0, z};
+    fibres.back().aire = (2 * (0.5 - std::abs(z)) + 0.1) / n;
+  }
+  for (const double ky : {1e-3, -1e-3}) {
+    const std::vector<deformation> planes = {{0, ky, 0}, {6e-4, ky, 0}};
+    forces_proches(forces(planes), efforts_apres_fluage(fibres, planes), 1e-7);
+  }
+}
+
 // epsilon_z counts, epsilon_a does not.
 TEST_F(EffortsGeneralises, LesLimitesEtLesDecalagesDUnCable) {
   creer_zone(1, 1, qb7_zone_semis, bilineaire, {{0, 0}});
@@ -355,7 +397,8 @@ TEST_F(EffortsGeneralises, LesLimitesEtLesDecalagesDUnCable) {
   EXPECT_EQ(juger({.epsilon_a = 3e-3}, 4.1e-3), ERR_EPSILON_LIM);
 }
 
-// Where the matter of a zone counts nothing it is not looked at.
+// A zone that is not there counts nothing; one without matter carries nothing, but its limits are judged, as
+// they are without creep.
 TEST_F(EffortsGeneralises, UneZoneSansMatiereNiActiviteNeComptePas) {
   creer_zone(1, 1, qb7_zone_semis, bilineaire, {{0, 0}});
   creer_zone(1, 2, qb7_zone_contour, bilineaire, rectangle);
@@ -366,6 +409,8 @@ TEST_F(EffortsGeneralises, UneZoneSansMatiereNiActiviteNeComptePas) {
   ier_2 ier;
   EXPECT_EQ(forces(histoires[2], &ier), efforts{});
   EXPECT_EQ(ier, ier_2{});
+  EXPECT_EQ(forces({{0, 0, 0}, {4e-3, 0, 0}}, &ier), efforts{});
+  EXPECT_EQ(ier, (ier_2{ERR_EPSILON_LIM, 1}));
 }
 
 // The geometric state: stress = strain, and creep of that "stress".

@@ -258,7 +258,7 @@ void eff_efforts_section(const deformation& deform_section, efforts& efforts_sec
     return r;
   });
   efforts_section = somme.eff;
-  if (avec_tangente) *mat_section = somme.mat;
+  if (mat_section != nullptr) *mat_section = somme.mat;
 }
 
 double eff_surface_rang_zone(int rang_zone) {

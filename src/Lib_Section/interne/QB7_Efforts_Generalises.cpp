@@ -24,7 +24,6 @@ namespace {
 ier_2 loc_zone_fluante(const gbd_zone& zone, zone_loc_type& zone_loc, int num_etat_lim,
                        zone_fluante_type& fluage) {
   zone_loc.epsilon_a = 0;
-  zone_loc.epsilon_m = 0;
   fluage = {.fluante = zone.fluante, .c_fluage = zone.c_fluage, .loi_aff_par_mor = {}};
   if (!fluage.flue() || !zone_loc.active_non_vide) return {};
   if (num_etat_lim == qb7_etat_mecanique) {
@@ -206,7 +205,8 @@ resultante int_efforts_fluage_semis(const contexte_fluage& ctx, const forme_mesu
 }
 
 resultante loc_efforts_forme(const contexte_fluage& ctx, const forme_mesuree& forme) {
-  if (eff_param_surface(*forme.zone_loc, forme.matiere) == 0) return {};
+  // a hole of no extent takes nothing; a zone without matter is still judged on its limits
+  if (!forme.matiere && eff_param_surface(*forme.zone_loc, false) == 0) return {};
   switch (forme.zone_loc->type_zone) {
     case qb7_zone_profil: return int_efforts_fluage_profil(ctx, forme);
     case qb7_zone_semis: return int_efforts_fluage_semis(ctx, forme);
@@ -243,5 +243,5 @@ void eff_g_efforts_section(std::span<const deformation> tab_deform, efforts& eff
     });
   });
   efforts_section = somme.eff;
-  if (avec_tangente) *mat_section = somme.mat;
+  if (mat_section != nullptr) *mat_section = somme.mat;
 }

@@ -12,6 +12,7 @@
 // most: repeated under constant loads, it leads to the stress under which creep is at rest.
 #pragma once
 
+#include <array>
 #include <span>
 #include <vector>
 
