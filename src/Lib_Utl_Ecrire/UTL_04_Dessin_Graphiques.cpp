@@ -117,7 +117,8 @@ void loc_ligne(const utl_04_point& a, const utl_04_point& b, const utl_04_couleu
 
 }  // namespace
 
-// Values stand below the axis and the label above it, or both on one side where the window ends.
+// Values stand on the side of the nearer edge, where a drawing has the least to cover; the label on the other
+// one if it has room.
 void utl_04_afficher_axex_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 opt_epaisseur_police) {
   if (!utl_04.glb_afficher_axex) return;
   const police p{opt_taille_police, opt_epaisseur_police};
@@ -126,12 +127,17 @@ void utl_04_afficher_axex_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 op
   const double y = loc_borner(utl_04_globales({0, 0}).y, ny);
   const double dessous = y + demi_trait + p.taille;
   const double dessus = y - demi_trait - ecart_texte / 2;
-  const double pied_valeurs = dessous + ecart_texte <= ny ? dessous : dessus;
-  double pied_label = dessus >= p.taille ? dessus : dessous;
+  const bool place_dessous = dessous + ecart_texte <= ny;
+  const bool place_dessus = dessus >= p.taille;
+  const bool valeurs_dessous = place_dessous && (y >= ny / 2 || !place_dessus);
+  const bool label_dessous = valeurs_dessous ? !place_dessus : place_dessous;
+  const double pied_valeurs = valeurs_dessous ? dessous : dessus;
+  double pied_label = label_dessous ? dessous : dessus;
+  double fin_precedente = 0;
   double fin_valeurs = nx - bord;
   utl_04_ecrire_fleche_svg({0, y}, {nx, y}, {utl_04_noir, largeur_axe, true});
   const texte<5> label = opt_label.octets().empty() ? utl_04.glb_label_axe_x : texte<5>(opt_label);
-  if (pied_label == pied_valeurs)
+  if (label_dessous == valeurs_dessous)
     fin_valeurs = nx - 2 * ecart_texte - utl_04_largeur_texte(label.utile().size(), p.taille);
   // In the upper right corner stands the label of the other axis, if that one runs along the edge.
   const bool coin_occupe = utl_04.glb_afficher_axey && utl_04_globales({0, 0}).x > nx - 3 * place_fleche &&
@@ -147,12 +153,13 @@ void utl_04_afficher_axex_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 op
     // The value of the origin makes room for the other axis.
     const bool a_cote = v == 0 && utl_04.glb_afficher_axey;
     const double gauche = a_cote ? x - ecart_texte - largeur : x - largeur / 2;
-    if (gauche < bord || gauche + largeur > fin_valeurs) continue;
+    if (gauche < fin_precedente + bord || gauche + largeur > fin_valeurs) continue;
+    fin_precedente = gauche + largeur;
     loc_ecrire_texte(valeur, {gauche + largeur / 2, pied_valeurs}, utl_04_ancrage::milieu, p);
   }
 }
 
-// Values stand on the left of the axis and the label on its right, or the other way round.
+// As for the other axis: values on the side of the nearer edge, the label on the other one.
 void utl_04_afficher_axey_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 opt_epaisseur_police) {
   if (!utl_04.glb_afficher_axey) return;
   const police p{opt_taille_police, opt_epaisseur_police};
@@ -165,7 +172,9 @@ void utl_04_afficher_axey_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 op
   for (const graduation& g : graduations)
     largeur_max = std::max(largeur_max, utl_04_largeur_texte(g.valeur.size(), p.taille));
   const double recul = demi_trait + ecart_texte;
-  const bool valeurs_a_gauche = x - recul - largeur_max >= bord || x > nx / 2;
+  const bool place_a_gauche = x - recul - largeur_max >= bord;
+  const bool place_a_droite = x + recul + largeur_max <= nx - bord;
+  const bool valeurs_a_gauche = place_a_gauche ? x <= nx / 2 || !place_a_droite : x > nx / 2;
   const double x_valeurs = valeurs_a_gauche ? x - recul : x + recul;
   const double x_label = valeurs_a_gauche ? x + recul : x - recul;
   const auto ancrage = [](bool a_gauche) { return a_gauche ? utl_04_ancrage::fin : utl_04_ancrage::debut; };

@@ -207,3 +207,16 @@ void zof_charpente::edition_zone() const {
   }
   utl_02_ecrire_tableau(tableau);
 }
+
+void zof_charpente::dessin_zone() const {
+  utl_04_point echelle;
+  utl_04_echelle_svg(echelle);
+  const polygone points = positions_points();
+  for (const zof_profil& p : uef_parcours<zof_profil>(m_les_profils_charpente)) {
+    const point_yz origine = points[indice(p.m_ix_point_origine)];
+    const point_yz extremite = points[indice(p.m_ix_point_extremite)];
+    utl_04_creer_ligne_svg(
+        {origine.y, origine.z}, {extremite.y, extremite.z},
+        {.opt_couleur = utl_04_bleu_fonce, .opt_largeur = std::max(1.0, p.m_epaisseur_profil * echelle.x)});
+  }
+}

@@ -20,6 +20,8 @@ struct zof_charpente : uef_element<zof_charpente, zof_zone> {
   [[nodiscard]] std::vector<int> numeros_zones_qb7() const override;
   [[nodiscard]] std::vector<socle::texte<32>> noms_materiaux() const override;
   void edition_zone() const override;
+  void dessin_zone() const override;
+  [[nodiscard]] bool numeros_au_dehors() const override { return true; }
 
  protected:
   void symetriser_contenu(const std::vector<int>& images) override;

@@ -16,4 +16,6 @@ struct zof_contour : uef_element<zof_contour, zof_zone> {
   void decoder_materiau(bool& erco) override;
   void traiter_zone(bool& erco) override;
   [[nodiscard]] bool point_interieur_zone(point_yz p) const override;
+  void dessin_zone() const override { dessiner_contour(utl_04_gris_0_25); }
+  [[nodiscard]] bool numeros_au_dehors() const override { return true; }
 };

@@ -12,4 +12,5 @@ struct zof_evidement : uef_element<zof_evidement, zof_zone> {
   void decoder_diametre(bool& erco) override;
   void traiter_zone(bool& erco) override;
   [[nodiscard]] bool point_interieur_zone(point_yz p) const override;
+  void dessin_zone() const override { dessiner_contour(utl_04_svg_couleur_fond); }
 };

@@ -126,6 +126,13 @@ double zof_ferraillage::rayon_points() const {
   return est_renseigne_double(m_diametre_zone) ? m_diametre_zone / 2 : 0;
 }
 
+void zof_ferraillage::dessin_zone() const {
+  dessiner_cercles({.opt_couleur_fond = utl_04_rouge,
+                    .opt_couleur_trait = utl_04_rouge,
+                    .opt_largeur = 0,
+                    .opt_rayon_min = 2});
+}
+
 std::vector<std::string> zof_ferraillage::donnees_editees() const {
   std::vector<std::string> donnees{
       concat({"Diametre (mm) : ", zof_chaine_numerique_double(m_diametre_zone * 1000).utile()})};

@@ -72,6 +72,7 @@ struct zof_ferraillage : uef_element<zof_ferraillage, zof_zone> {
   /// The zone of the engine and its points are deleted; the zone is without bars.
   void retirer_barres();
   [[nodiscard]] zof_contour& contour_mere() const;
+  void dessin_zone() const override;
 
  protected:
   [[nodiscard]] std::vector<std::string> donnees_editees() const override;

@@ -40,6 +40,8 @@ double zof_gaines::rayon_points() const {
   return est_renseigne_double(m_diametre_zone) ? m_diametre_zone / 2 : 0;
 }
 
+void zof_gaines::dessin_zone() const { dessiner_cercles({.opt_couleur_trait = utl_04_bleu}); }
+
 std::vector<std::string> zof_gaines::donnees_editees() const {
   return {concat({"Diametre (mm) : ", zof_chaine_numerique_double(m_diametre_zone * 1000).utile()})};
 }

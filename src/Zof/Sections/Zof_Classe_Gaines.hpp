@@ -13,6 +13,7 @@ struct zof_gaines : uef_element<zof_gaines, zof_zone> {
   void traiter_zone(bool& erco) override;
   [[nodiscard]] bool point_interieur_zone(point_yz p) const override;
   [[nodiscard]] double rayon_points() const override;
+  void dessin_zone() const override;
 
  protected:
   [[nodiscard]] std::vector<std::string> donnees_editees() const override;

@@ -95,6 +95,11 @@ int zof_precontrainte::numero_cable_qb7(int numero_point) const {
   return zof_cp_cable(*m_les_cables.case_element(trouve->second).m_ptr_element).m_numero_zone_qb7;
 }
 
+void zof_precontrainte::dessin_zone() const {
+  dessiner_cercles(
+      {.opt_couleur_fond = utl_04_vert_fonce, .opt_couleur_trait = utl_04_vert_fonce, .opt_largeur = 0});
+}
+
 std::vector<std::string> zof_precontrainte::donnees_editees() const {
   return {concat({"Aire (mm2) : ", zof_chaine_numerique_double(m_aire_precontrainte * 1e6).utile()})};
 }

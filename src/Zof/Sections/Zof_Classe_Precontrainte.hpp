@@ -21,6 +21,7 @@ struct zof_precontrainte : uef_element<zof_precontrainte, zof_zone> {
   [[nodiscard]] std::vector<int> numeros_zones_qb7() const override;
   [[nodiscard]] double rayon_points() const override;
   void desactiver_precontrainte() const override;
+  void dessin_zone() const override;
   /// Engine zone of the tendon at the point of that number; not given if there is none.
   [[nodiscard]] int numero_cable_qb7(int numero_point) const;
 

@@ -275,6 +275,17 @@ void zof_zone::etendre_emprise(std::array<double, 2>& y_min_max, std::array<doub
 
 std::vector<std::string> zof_zone::donnees_editees() const { return {}; }
 
+void zof_zone::dessiner_contour(const utl_04_couleur& fond) const {
+  std::vector<utl_04_point> points;
+  for (const zof_point& p : uef_parcours<zof_point>(m_les_points_zone)) points.push_back({p.m_y, p.m_z});
+  utl_04_creer_chemin_svg(points, {.opt_couleur_fond = fond, .opt_ferme = true});
+}
+
+void zof_zone::dessiner_cercles(const utl_04_options_cercle& options) const {
+  for (const zof_point& p : uef_parcours<zof_point>(m_les_points_zone))
+    utl_04_creer_cercle_svg({p.m_y, p.m_z}, rayon_points(), options);
+}
+
 void zof_zone::edition_zone() const {
   std::string titre = concat({intitule(), " : ", m_nom_zone.utile()});
   if (est_renseigne_chaine(m_titre_zone)) titre += concat({" - ", m_titre_zone.utile()});

@@ -16,6 +16,7 @@
 #include "Index_Contour.hpp"
 #include "QB7_Types.hpp"
 #include "Texte.hpp"
+#include "UTL_04_Dessin.hpp"
 #include "Uef_Classe_Vector.hpp"
 #include "Zof_Classe_Point.hpp"
 #include "Zof_Classe_Zone_Generalisee.hpp"
@@ -175,6 +176,10 @@ struct zof_zone : zof_zone_generalisee {
   [[nodiscard]] virtual double rayon_points() const { return 0; }
   /// Title, data and table of points in the notes.
   virtual void edition_zone() const;
+  /// The zone alone in the drawing that is open.
+  virtual void dessin_zone() const = 0;
+  /// Whether the numbers of its points stand rather outside of it, in a drawing.
+  [[nodiscard]] virtual bool numeros_au_dehors() const { return false; }
 
  protected:
   /// The outline of a contour or a void that is in the engine: what stands in it is tested against it.
@@ -201,6 +206,11 @@ struct zof_zone : zof_zone_generalisee {
   void refuser_points_doubles(grille_points& grille, bool& erco) const;
   /// The checks on the number of points of an outline.
   void controle_nombre_points(socle::vue_l1 message, socle::vue_l1 message_partiel, bool& erco) const;
+  /// True if the point lies in the outline or nearer than the tolerance to one of its sides.
+  [[nodiscard]] bool point_dans_contour(point_yz p) const;
+  /// What zones are drawn as: a closed outline on its fill; a circle about each point.
+  void dessiner_contour(const utl_04_couleur& fond) const;
+  void dessiner_cercles(const utl_04_options_cercle& options) const;
   /// The bullets of this kind of zone, behind its material: one text each.
   [[nodiscard]] virtual std::vector<std::string> donnees_editees() const;
 

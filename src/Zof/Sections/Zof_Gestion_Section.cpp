@@ -15,6 +15,7 @@
 #include "UTL_02_Ecriture_Resu.hpp"
 #include "Zof_Classe_Materiau_Precontrainte_EC.hpp"
 #include "Zof_Classe_Situation_Materiau.hpp"
+#include "Zof_Dessin_Section.hpp"
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Utilit.hpp"
@@ -394,11 +395,13 @@ void loc_editer_proprietes(const zof_section& section) {
 
 }  // namespace
 
-void zof_editer_section(zof_section& section) {
+void zof_editer_dessiner_section(zof_section& section, bool& erco) {
   utl_02_ecrire_titre(concat({"Section : ", section.m_nom_zone.utile(), " - ", section.m_titre_zone.utile()}),
                       2);
   zof_activer_section(section.m_nom_zone);
   section.emprise_section();
+  zof_dessiner_section(section, erco);
+  if (erco) return;
   loc_editer_proprietes(section);
   for (const zof_zone* const zone : section.zones()) zone->edition_zone();
 }
@@ -408,9 +411,9 @@ void zof_editer_dessiner_sections(bool& erco) {
   and_lire_nom(nom, 32, erco);
   if (erco) return;
   zof_section* const section = zof_get_pt_section(nom);
-  if (section != nullptr) return zof_editer_section(*section);
+  if (section != nullptr) return zof_editer_dessiner_section(*section, erco);
   zof_assert_commande(nom == "TOUT", concat({"la section ", nom.utile(), " n existe pas"}), erco);
   if (erco) return;
   for (const auto& p : uef_parcours<zof_zone_generalisee_pointeur>(gestion_section.zof_mod_les_sections))
-    zof_editer_section(static_cast<zof_section&>(*p.m_pt_zone));
+    if (!erco) zof_editer_dessiner_section(static_cast<zof_section&>(*p.m_pt_zone), erco);
 }

@@ -24,6 +24,7 @@ struct gestion_section_t {
   uef_vector zof_mod_les_sections;                                      // of zof_zone_generalisee_pointeur
   std::deque<std::unique_ptr<zof_zone_generalisee>> zof_mod_les_zones;  // sections and zones live here
   std::unordered_map<std::string, zof_section*> zof_mod_sections_par_nom;
+  int no_dessin = 0;  // of the last drawing of the run
 };
 extern gestion_section_t gestion_section;
 void gestion_section_reinitialiser();
@@ -33,7 +34,8 @@ void gestion_section_reinitialiser();
 /// The command SECT: name and block up to FIN_SECT.
 void zof_decoder_creer_section(bool& erco);
 
-/// The command EDIT SECT: "TOUT" or the name of a section; title, properties and zones in the notes.
+/// The command EDIT SECT: "TOUT" or the name of a section; title, drawings, properties and zones in the
+/// notes.
 void zof_editer_dessiner_sections(bool& erco);
 
 // ---- Queries
@@ -122,5 +124,5 @@ zof_repere_brut zof_get_repere_brut_section(const socle::texte<32>& nom_section,
 
 // ---- In the notes
 
-/// Title, properties and zones of a section.
-void zof_editer_section(zof_section& section);
+/// Title, drawings, properties and zones of a section. One that can't be drawn is refused.
+void zof_editer_dessiner_section(zof_section& section, bool& erco);

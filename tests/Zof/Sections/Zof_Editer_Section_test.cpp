@@ -5,8 +5,11 @@
 #include <memory>
 #include <regex>
 #include <string>
+#include <vector>
 
 #include "UTL_02_Ecriture_Resu.hpp"
+#include "Zof_Dessin_Section.hpp"
+#include "Zof_Options.hpp"
 #include "modele.hpp"
 
 using namespace socle;
@@ -30,7 +33,9 @@ std::string note(const std::string& donnees) {
                         .opt_logiciel = 5,
                         .opt_lg_ligne = 300,
                         .opt_numeroter_titres = true});
-    zof_editer_section(*zof_get_pt_section("S1"));
+    bool erco = false;
+    zof_editer_dessiner_section(*zof_get_pt_section("S1"), erco);
+    EXPECT_FALSE(erco);
     utl_02_reinitialiser();
   }
   return std::regex_replace(machine.fichiers["n.txt"], std::regex(" +"), " ");
@@ -84,4 +89,25 @@ TEST(Edition, UneSectionDeCablesSeulsNAPasDeProprietes) {
       note(section("PREC P1 MATE TORON AIRE 1500. POIN NUME 5 Y 0. Z 0. FIN_ FIN_POIN FIN_PREC"));
   EXPECT_THAT(n, HasSubstr("Precontrainte : P1\n"));
   EXPECT_THAT(n, Not(HasSubstr("Aire (m2)")));
+}
+
+// A name may come from a computation, with any character in it: it is one file name all the same.
+TEST(Edition, UnNomDeSectionNeSortPasDuRepertoireDesDessins) {
+  modele m(poutre);
+  ASSERT_TRUE(m.lire()) << m.console();
+  zof_options.glo_racine_nom_fichier_svg = "ici\\Svg_e\\";
+  zof_get_pt_section("S1")->set_nom_zone("../../a\\b");
+  zof_section& section = *zof_get_pt_section("S1");
+  systeme_memoire machine;
+  {
+    const systeme_en_place en_place(machine);
+    bool erco = false;
+    section.emprise_section();
+    zof_dessiner_section(section, erco);
+    EXPECT_FALSE(erco);
+  }
+  std::vector<std::string> fichiers;
+  for (const auto& [nom, contenu] : machine.fichiers) fichiers.push_back(nom);
+  EXPECT_THAT(fichiers, testing::ElementsAre("ici/Svg_e/.._.._a_b_1.svg", "ici/Svg_e/.._.._a_b_1_D.svg"));
+  zof_options_reinitialiser();
 }
