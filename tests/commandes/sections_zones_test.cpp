@@ -218,7 +218,7 @@ TEST(Charpente, SansEpaisseurOuSansLongueur) {
 
 // Nothing has an area: the engine tells it of the properties, and the run stops there with the notes open.
 TEST(Zones, SansAireIlNYAPasDeProprietes) {
-  const std::string deux = "CHAR H1 MATE S355 " + points({{0, 0}, {0, 0.4}});
+  const std::string deux = "CHAR H1 MATE S355 " + points({{0, 0}, {0.1, 0.4}});
   for (const std::string& texte : {section(deux + "PROF NUME 1 ORIG 1 EXTR 2 EPAI 0. FIN_ FIN_PROF FIN_CHAR"),
                                    section(deux + "PROF NUME 1 ORIG 1 EXTR 1 EPAI 5. FIN_ FIN_PROF FIN_CHAR"),
                                    dans_un_rectangle("EVID E1 RECT HAUT 1.D0 LARG 0.5D0 FIN_ FIN_")}) {
