@@ -11,6 +11,8 @@
 #include "Zof_Erreurs.hpp"
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Sollicitations.hpp"
+#include "Zof_Lecture_Analyses.hpp"
+#include "Zof_Plan_Interaction.hpp"
 #include "Zof_Utilit.hpp"
 #include "Zof_Utilitaires.hpp"
 
@@ -29,17 +31,20 @@ struct options_justification {
 
 void loc_console(vue_l1 ligne) { le_systeme().console().ligne(ligne); }
 
-/// YES is `oui`, no is NON_.
-void loc_lire_choix(mot_clef oui, bool& choix, bool& erco) {
+/// The diagrams of the SOLL that follow; FIXE may give their plane.
+void loc_lire_interactions(bool& erco) {
+  gestion_justifications_t& g = gestion_justifications;
+  zof_assert_commande(!g.mod_glo_afficher_interactions, "OPTION INTERACTION repetee", erco);
+  if (erco) return;
+  g.mod_glo_afficher_interactions = true;
   texte<4> mot;
   and_lire_deb_nom(mot, 4, erco);
   if (erco) return;
-  if (clef(mot) == oui)
-    choix = true;
-  else if (clef(mot) == "NON_"_mot)
-    choix = false;
-  else
-    zof_attribut_incorrect(mot, erco);
+  if (clef(mot) != "FIXE"_mot) return and_relire_donnee();
+  zof_lire_composante_fixee(g.mod_glo_composante_fixee, g.mod_glo_valeur_fixee, erco);
+  if (erco) return;
+  zof_assert_commande(zof_pt_plan_interaction(g.mod_glo_composante_fixee) != nullptr,
+                      "Composante fixee incorrecte /= N/My/MZ", erco);
 }
 
 void loc_justifier(const texte<32>& nom_section, const texte<32>& nom_sollicitations,
@@ -176,8 +181,9 @@ void zof_traiter_justifications(bool& erco) {
   texte<4> mot;
   for (and_lire_deb_nom(mot, 4, erco); !erco; and_lire_deb_nom(mot, 4, erco)) {
     switch (clef(mot)) {
-      case "DEFO"_mot: loc_lire_choix("BORN"_mot, options.controle_bornes, erco); break;
-      case "PIVO"_mot: loc_lire_choix("JUST"_mot, options.pivot_c_justifie, erco); break;
+      case "DEFO"_mot: zof_lire_choix("BORN"_mot, options.controle_bornes, erco); break;
+      case "PIVO"_mot: zof_lire_choix("JUST"_mot, options.pivot_c_justifie, erco); break;
+      case "INTE"_mot: loc_lire_interactions(erco); break;
       case "SOLL"_mot: loc_lire_sollicitations(nom_section, options, erco); break;
       case "FIN_"_mot: return zof_controle_mot_fin("FIN_JUST");
       default: zof_attribut_incorrect(mot, erco);
@@ -203,6 +209,7 @@ void zof_justifier_sollicitations_ba(const texte<32>& nom_section, const texte<3
       zof_solliciter_section(cadre, cas.m_titre.utile(), cas.get_efforts(), true, deform_section);
       if (pivot_c) zof_justifier_pivot_c(cadre, deform_section);
     }
+    if (gestion_justifications.mod_glo_afficher_interactions) zof_afficher_interactions(true, cadre);
   }
 }
 

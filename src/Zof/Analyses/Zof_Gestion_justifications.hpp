@@ -7,11 +7,13 @@
 // result: it is told in the notes and on the console, and the run goes on. Forces in MN and MN.m, stresses in
 // MPa, compression positive.
 
+#include <optional>
 #include <span>
 #include <string>
 
 #include "QB7_Types.hpp"
 #include "Texte.hpp"
+#include "Zof_Classe_Effort.hpp"
 #include "Zof_Gestion_Section.hpp"
 
 struct gestion_justifications_t {
@@ -52,6 +54,21 @@ bool zof_solliciter_section(const zof_cadre_justification& cadre, socle::vue_l1 
 /// Strain at the centroid of the gross section against that of the peak of the concrete's diagram: a section
 /// wholly in compression turns about its pivot C (EN 1992-1-1 6.1, figure 6.1).
 void zof_justifier_pivot_c(const zof_cadre_justification& cadre, const deformation& deform_section);
+
+/// Load cases that are plotted on an interaction diagram, each of list 1 with each of list 2; and the tendons
+/// under tension (positive, MPa), whose own force is shown beside them.
+struct zof_cas_interactions {
+  std::span<const zof_effort> opt_les_efforts_1 = {};
+  std::span<const zof_effort> opt_les_efforts_2 = {};  ///< empty: those of list 1 alone
+  std::span<const double> opt_les_tensions = {};
+  std::span<const int> opt_les_zones_cables = {};  ///< as many as tensions
+  /// Whether the forces of the cases hold the isostatic effect of the tendons; not given without tendons.
+  std::optional<bool> opt_prec_iso_incluse = {};
+};
+/// Interaction diagram in the notes, of the section as it stands in the engine and in its frame of loading;
+/// the plane is that of the INTE option. An empty one is told, and nothing is drawn.
+void zof_afficher_interactions(bool controle_bornes, const zof_cadre_justification& cadre,
+                               const zof_cas_interactions* opt_cas = nullptr);
 
 // ---- Strains and stresses in the notes, under a plane of the section
 

@@ -7,6 +7,7 @@
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
 #include "Zof_Gestion_Sollicitations.hpp"
+#include "Zof_Gestion_interactions.hpp"
 #include "Zof_Gestion_justifications.hpp"
 #include "Zof_Options.hpp"
 #include "Zof_Utilitaires.hpp"
@@ -38,6 +39,7 @@ void loc_executer(const texte<4>& mot, bool& materiau, bool& erco) {
     case "SECT"_mot: zof_decoder_creer_section(erco); break;
     case "SOLL"_mot: zof_decoder_sollicitations(erco); break;
     case "JUST"_mot: zof_traiter_justifications(erco); break;
+    case "INTE"_mot: zof_traiter_interactions(erco); break;
     case "EDIT"_mot: zof_editer(erco); break;
     default: zof_attribut_incorrect(mot, erco); break;
   }

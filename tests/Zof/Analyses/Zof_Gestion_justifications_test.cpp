@@ -395,4 +395,158 @@ TEST_F(Tableaux, UnTitreDeCasEstCoupeA300) {
   EXPECT_THAT(note, HasSubstr("R&#233;sultat : Equilibre sous : " + long_titre + "</b>"));
 }
 
+// ---- Load cases on an interaction diagram
+
+/// 0.30 x 0.50 of steel within 400 MPa, N up to 60, My up to 5; a tendon of 10 cm2 that bears nothing.
+class Diagrammes : public Tableaux {
+ protected:
+  Diagrammes() {
+    const std::string acier = "MATE ACIER " + rectangle.substr(rectangle.find("POIN"));
+    lire("CONT FUT " + acier +
+         "PREC C1 MATE TORON AIRE 1000. POIN NUME 11 Y 0.1D0 Z -0.2D0 FIN_ FIN_POIN FIN_PREC\n"
+         "FIN_CONT");
+    zof_desactiver_cables_section("S1");
+    gestion_justifications_reinitialiser();
+  }
+  ~Diagrammes() override { gestion_justifications_reinitialiser(); }
+
+  static zof_effort effort(const efforts& f) {
+    zof_effort e;
+    e.set_efforts(f);
+    return e;
+  }
+  /// Writes the diagram in the notes of this machine.
+  void afficher(const zof_cas_interactions& cas) {
+    const systeme_en_place ici(machine);
+    zof_afficher_interactions(true, cadre(), &cas);
+  }
+  /// The rows E1, E2... of the table of cases, without their labels.
+  static std::vector<std::vector<double>> legende(const std::string& note) {
+    std::vector<std::vector<double>> resultat;
+    std::istringstream flux(note);
+    for (std::string ligne; std::getline(flux, ligne);) {
+      if (!ligne.starts_with("E" + std::to_string(resultat.size() + 1) + " ")) continue;
+      std::istringstream cellules(ligne.substr(ligne.find(' ')));
+      resultat.emplace_back();
+      for (double valeur = 0; cellules >> valeur;) resultat.back().push_back(valeur);
+    }
+    return resultat;
+  }
+  const std::string& dessin(int numero = 1) {
+    return machine
+        .fichiers["S1_Diagramme_N_My_EXPLOITATION_SERVICE_ELS_CAR_MZ_0_" + std::to_string(numero) + ".svg"];
+  }
+};
+
+// Each case of the first list with each of the second: a cross of two red lines and a label for each, and its
+// row. The nearest side of the rhombus |N| / 60 + |My| / 5 = 1 is told by points of the curve, 100 of them.
+TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
+  const std::array premiers = {effort({10, 1, 0.5}), effort({30, -1, 0})};
+  const std::array seconds = {effort({2, 0.5, 0}), effort({-10, 1, 0}), effort({50, 4, 0})};
+  const std::array tensions = {1000.0};
+  const std::array zones = {zone_qb7("C1")};
+  afficher({premiers, seconds, tensions, zones, true});
+  const std::string note = txt();
+  EXPECT_THAT(note, HasSubstr("S1- Diagramme:N/My-EXPLOITATION_SERVICE-ELS_CAR-MZ=0.0000\n"));
+  EXPECT_THAT(note, HasSubstr("  - Attention : en repere non brut le diagramme est atypique.\n"
+                              "  - Attention : Les efforts du diagramme sont donnes - precontrainte "
+                              "isostatique incluse.\n"));
+  EXPECT_THAT(note, HasSubstr(l1("Légende diagramme\n"_l1)));
+  EXPECT_THAT(note, HasSubstr("Label   My(Renseigne)   N(Renseigne)   My(P iso)   N(P iso)   Norme_effort   "
+                              "Norme_distance   Rapport"));
+  const auto lignes_lues = legende(note);
+  const std::vector<std::array<double, 2>> attendus = {{1.5, 12},  {2, 0},  {5, 60},
+                                                       {-0.5, 32}, {0, 20}, {3, 80}};
+  ASSERT_EQ(lignes_lues.size(), attendus.size());
+  for (std::size_t i = 0; i < attendus.size(); ++i) {
+    SCOPED_TRACE(i);
+    const std::vector<double>& l = lignes_lues[i];
+    ASSERT_EQ(l.size(), 7U);
+    EXPECT_NEAR(l[0], attendus[i][0], 1e-9);
+    EXPECT_NEAR(l[1], attendus[i][1], 1e-9);
+    // 1 MN of the tendon at (0.1, -0.2): My = -0.2
+    EXPECT_NEAR(l[2], -0.2, 1e-9);
+    EXPECT_NEAR(l[3], 1, 1e-9);
+    EXPECT_NEAR(l[4], std::hypot(l[0], l[1]), 1e-4 * l[4]);
+    EXPECT_NEAR(l[6], (l[4] - l[5]) / l[4], 1e-4);
+  }
+  // (2, 0): 3 from the corner (5, 0), and points of the curve stand not far from it
+  EXPECT_NEAR(lignes_lues[1][5], 2.98, 0.1);
+  EXPECT_LT(note.find(l1("Légende diagramme"_l1)), note.find("Tableau des valeurs"));
+
+  const std::string& svg = dessin();
+  EXPECT_EQ(nombre_de(svg, "<line "),
+            nombre_de(svg, "stroke:rgb(255,0,0)") + nombre_de(svg, "stroke:rgb(0,0,0)") +
+                nombre_de(svg, "stroke:rgb(192,192,192)") + nombre_de(svg, "stroke:rgb(0,0,255)"));
+  EXPECT_EQ(nombre_de(svg, "stroke:rgb(255,0,0)"), 12U);
+  for (int i = 1; i <= 6; ++i) EXPECT_EQ(nombre_de(svg, ">E" + std::to_string(i) + "</text>"), 1U) << i;
+  EXPECT_TRUE(svg.ends_with("</svg>\n"));
+  EXPECT_THAT(html(), HasSubstr("MZ_0_1.svg"));
+}
+
+// Without a second list its own cases are the points; without tendons nothing is said of prestress.
+TEST_F(Diagrammes, UneSeuleListe) {
+  const std::array cas = {effort({10, 1, 0}), effort({0, 0, 7})};
+  gestion_justifications.mod_glo_sollicitation_en_repere_brut = true;
+  afficher({.opt_les_efforts_1 = cas});
+  const std::string note = txt();
+  EXPECT_THAT(note, Not(HasSubstr("Attention")));
+  const auto lignes_lues = legende(note);
+  ASSERT_EQ(lignes_lues.size(), 2U);
+  EXPECT_EQ(lignes_lues[0][2], 0);
+  EXPECT_EQ(lignes_lues[0][3], 0);
+  // No force at all: the norm is a millionth, and the ratio says that the curve is far.
+  EXPECT_THAT(note, HasSubstr("E2      0.0000          0.0000         0.0000      0.0000     0.10000E-05 "));
+  EXPECT_NEAR(lignes_lues[1][6], 1 - lignes_lues[1][5] * 1e6, 1e-4 * std::abs(lignes_lues[1][6]));
+}
+
+TEST_F(Diagrammes, SansLaPrecontrainteIsostatique) {
+  const std::array cas = {effort({10, 1, 0})};
+  gestion_justifications.mod_glo_sollicitation_en_repere_brut = true;
+  afficher({.opt_les_efforts_1 = cas, .opt_prec_iso_incluse = false});
+  EXPECT_THAT(txt(), HasSubstr("  - Attention : Les efforts du diagramme sont donnes sans la precontrainte "
+                               "isostatique.\n"));
+}
+
+// A case on a point of the curve has no distance to it.
+TEST_F(Diagrammes, UnCasSurLaCourbe) {
+  std::array<point_xy, 100> courbe;
+  ASSERT_EQ(qb7_diagramme_interaction(true, 1, etat_limite, {{{0, 1, 0}, {1, 0, 0}, {0, 0, 1}}}, 0, courbe),
+            ier_2{});
+  const std::array cas = {effort({courbe[37].y, courbe[37].x, 0})};
+  afficher({.opt_les_efforts_1 = cas});
+  const auto lignes_lues = legende(txt());
+  ASSERT_EQ(lignes_lues.size(), 1U);
+  EXPECT_EQ(lignes_lues[0][5], 0);
+  EXPECT_EQ(lignes_lues[0][6], 1);
+}
+
+// The force of the tendon seen from a frame at (0.3, 0.1), turned by 90 degrees: there it acts at (-0.3,
+// 0.2).
+TEST_F(Diagrammes, LaPrecontrainteIsostatiqueDansUnRepereTourne) {
+  ASSERT_EQ(qb7_fixer_repere_sollicitation(1, 0.3, 0.1, std::numbers::pi / 2), ier_2{});
+  const std::array cas = {effort({1, 0, 0})};
+  const std::array tensions = {1000.0, 500.0};
+  const std::array zones = {zone_qb7("C1"), zone_qb7("C1")};
+  struct attente {
+    const char* composante;
+    double x, y;
+  };
+  // y' = z - 0.1 = -0.3, z' = -(y - 0.3) = 0.2: My = 1.5 * 0.2, Mz = 1.5 * 0.3
+  for (const attente& a : {attente{"MZ", 0.3, 1.5}, attente{"MY", 0.45, 1.5}, attente{"N", 0.3, 0.45}}) {
+    gestion_justifications.mod_glo_composante_fixee = std::string_view(a.composante);
+    afficher({cas, {}, tensions, zones, true});
+    const auto lignes_lues = legende(txt());
+    ASSERT_EQ(lignes_lues.size(), 1U) << a.composante;
+    EXPECT_NEAR(lignes_lues[0][2], a.x, 1e-9) << a.composante;
+    EXPECT_NEAR(lignes_lues[0][3], a.y, 1e-9) << a.composante;
+  }
+}
+
+// Lists that do not match are an internal fault.
+TEST_F(Diagrammes, UneTensionSansCable) {
+  const std::array tensions = {1000.0};
+  EXPECT_EQ(statut_d_arret([&] { afficher({.opt_les_tensions = tensions}); }), 1);
+}
+
 }  // namespace
