@@ -397,14 +397,15 @@ TEST_F(Tableaux, UnTitreDeCasEstCoupeA300) {
 
 // ---- Load cases on an interaction diagram
 
-/// 0.30 x 0.50 of steel within 400 MPa, N up to 60, My up to 5; a tendon of 10 cm2 that bears nothing.
+/// 0.30 x 0.50 within 15 MPa on both sides: N up to 2.25, My up to 0.1875; a tendon of 10 mm2 that bears
+/// nothing.
 class Diagrammes : public Tableaux {
  protected:
   Diagrammes() {
-    const std::string acier = "MATE ACIER " + rectangle.substr(rectangle.find("POIN"));
-    lire("CONT FUT " + acier +
-         "PREC C1 MATE TORON AIRE 1000. POIN NUME 11 Y 0.1D0 Z -0.2D0 FIN_ FIN_POIN FIN_PREC\n"
-         "FIN_CONT");
+    lire("CONT FUT " + rectangle +
+         "PREC C1 MATE TORON AIRE 10. POIN NUME 11 Y 0.1D0 Z -0.2D0 FIN_ FIN_POIN FIN_PREC\nFIN_CONT");
+    constexpr int beton = 1;
+    EXPECT_EQ(qb7_fixer_bornes_loi(beton, etat_limite, -5e-4, 5e-4), ier_2{});
     zof_desactiver_cables_section("S1");
     gestion_justifications_reinitialiser();
   }
@@ -439,10 +440,10 @@ class Diagrammes : public Tableaux {
 };
 
 // Each case of the first list with each of the second: a cross of two red lines and a label for each, and its
-// row. The nearest side of the rhombus |N| / 60 + |My| / 5 = 1 is told by points of the curve, 100 of them.
+// row. The curve is the rhombus |N| / 2.25 + |My| / 0.1875 = 1.
 TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
-  const std::array premiers = {effort({10, 1, 0.5}), effort({30, -1, 0})};
-  const std::array seconds = {effort({2, 0.5, 0}), effort({-10, 1, 0}), effort({50, 4, 0})};
+  const std::array premiers = {effort({0.4, 0.04, 0.02}), effort({1.1, -0.04, 0})};
+  const std::array seconds = {effort({0.1, 0.02, 0}), effort({-0.4, 0.04, 0}), effort({1.9, 0.15, 0})};
   const std::array tensions = {1000.0};
   const std::array zones = {zone_qb7("C1")};
   afficher({premiers, seconds, tensions, zones, true});
@@ -452,11 +453,12 @@ TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
                               "  - Attention : Les efforts du diagramme sont donnes - precontrainte "
                               "isostatique incluse.\n"));
   EXPECT_THAT(note, HasSubstr(l1("Légende diagramme\n"_l1)));
-  EXPECT_THAT(note, HasSubstr("Label   My(Renseigne)   N(Renseigne)   My(P iso)   N(P iso)   Norme_effort   "
-                              "Norme_distance   Rapport"));
+  EXPECT_THAT(
+      note, testing::ContainsRegex("Label +My\\(Renseigne\\) +N\\(Renseigne\\) +My\\(P iso\\) +N\\(P iso\\) "
+                                   "+Norme_effort +Norme_distance +Rapport"));
   const auto lignes_lues = legende(note);
-  const std::vector<std::array<double, 2>> attendus = {{1.5, 12},  {2, 0},  {5, 60},
-                                                       {-0.5, 32}, {0, 20}, {3, 80}};
+  const std::vector<std::array<double, 2>> attendus = {{0.06, 0.5},  {0.08, 0}, {0.19, 2.3},
+                                                       {-0.02, 1.2}, {0, 0.7},  {0.11, 3}};
   ASSERT_EQ(lignes_lues.size(), attendus.size());
   for (std::size_t i = 0; i < attendus.size(); ++i) {
     SCOPED_TRACE(i);
@@ -464,14 +466,15 @@ TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
     ASSERT_EQ(l.size(), 7U);
     EXPECT_NEAR(l[0], attendus[i][0], 1e-9);
     EXPECT_NEAR(l[1], attendus[i][1], 1e-9);
-    // 1 MN of the tendon at (0.1, -0.2): My = -0.2
-    EXPECT_NEAR(l[2], -0.2, 1e-9);
-    EXPECT_NEAR(l[3], 1, 1e-9);
+    // 0.01 MN of the tendon at (0.1, -0.2): My = -0.002
+    EXPECT_NEAR(l[2], -0.002, 1e-9);
+    EXPECT_NEAR(l[3], 0.01, 1e-9);
     EXPECT_NEAR(l[4], std::hypot(l[0], l[1]), 1e-4 * l[4]);
     EXPECT_NEAR(l[6], (l[4] - l[5]) / l[4], 1e-4);
   }
-  // (2, 0): 3 from the corner (5, 0), and points of the curve stand not far from it
-  EXPECT_NEAR(lignes_lues[1][5], 2.98, 0.1);
+  // (0.08, 0): 0.1071 from the side, and the next point of the curve stands less than 0.05 along it
+  EXPECT_GE(lignes_lues[1][5], 0.106);
+  EXPECT_LE(lignes_lues[1][5], std::hypot(0.1075, 0.05));
   EXPECT_LT(note.find(l1("Légende diagramme"_l1)), note.find("Tableau des valeurs"));
 
   const std::string& svg = dessin();
@@ -486,7 +489,7 @@ TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
 
 // Without a second list its own cases are the points; without tendons nothing is said of prestress.
 TEST_F(Diagrammes, UneSeuleListe) {
-  const std::array cas = {effort({10, 1, 0}), effort({0, 0, 7})};
+  const std::array cas = {effort({0.5, 0.05, 0}), effort({0, 0, 0.1})};
   gestion_justifications.mod_glo_sollicitation_en_repere_brut = true;
   afficher({.opt_les_efforts_1 = cas});
   const std::string note = txt();
@@ -496,12 +499,12 @@ TEST_F(Diagrammes, UneSeuleListe) {
   EXPECT_EQ(lignes_lues[0][2], 0);
   EXPECT_EQ(lignes_lues[0][3], 0);
   // No force at all: the norm is a millionth, and the ratio says that the curve is far.
-  EXPECT_THAT(note, HasSubstr("E2      0.0000          0.0000         0.0000      0.0000     0.10000E-05 "));
+  EXPECT_EQ(lignes_lues[1][4], 1e-6);
   EXPECT_NEAR(lignes_lues[1][6], 1 - lignes_lues[1][5] * 1e6, 1e-4 * std::abs(lignes_lues[1][6]));
 }
 
 TEST_F(Diagrammes, SansLaPrecontrainteIsostatique) {
-  const std::array cas = {effort({10, 1, 0})};
+  const std::array cas = {effort({0.5, 0.05, 0})};
   gestion_justifications.mod_glo_sollicitation_en_repere_brut = true;
   afficher({.opt_les_efforts_1 = cas, .opt_prec_iso_incluse = false});
   EXPECT_THAT(txt(), HasSubstr("  - Attention : Les efforts du diagramme sont donnes sans la precontrainte "
@@ -532,8 +535,9 @@ TEST_F(Diagrammes, LaPrecontrainteIsostatiqueDansUnRepereTourne) {
     const char* composante;
     double x, y;
   };
-  // y' = z - 0.1 = -0.3, z' = -(y - 0.3) = 0.2: My = 1.5 * 0.2, Mz = 1.5 * 0.3
-  for (const attente& a : {attente{"MZ", 0.3, 1.5}, attente{"MY", 0.45, 1.5}, attente{"N", 0.3, 0.45}}) {
+  // y' = z - 0.1 = -0.3, z' = -(y - 0.3) = 0.2: My = 0.015 * 0.2, Mz = 0.015 * 0.3
+  for (const attente& a :
+       {attente{"MZ", 0.003, 0.015}, attente{"MY", 0.0045, 0.015}, attente{"N", 0.003, 0.0045}}) {
     gestion_justifications.mod_glo_composante_fixee = std::string_view(a.composante);
     afficher({cas, {}, tensions, zones, true});
     const auto lignes_lues = legende(txt());
