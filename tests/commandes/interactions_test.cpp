@@ -204,6 +204,24 @@ TEST(Interaction, UnNomTresLong) {
   EXPECT_THAT(c.html, HasSubstr("Svg_etude/" + fichier));
 }
 
+// A name that is a computed text may hold anything: what separates directories does not reach the file
+// system.
+TEST(Interaction, UnNomQuiVeutSortirDuRepertoire) {
+  for (const auto& [nom, attendu] :
+       std::vector<std::pair<std::string, std::string>>{{"('../../' + 'etc/x')", ".._.._ETC_X"},
+                                                        {"('/tmp/' + 'a b')", "_TMP_A B"},
+                                                        {"('..' + '\\n')", ".._N"}}) {
+    const course c = tracer("INTE " + nom + " SECT PRISME FIN_INTE");
+    EXPECT_EQ(c.statut, 0) << nom;
+    ASSERT_EQ(c.svg.size(), 1U) << nom;
+    EXPECT_TRUE(c.svg.begin()->first.starts_with("PRISME_Interaction_")) << c.svg.begin()->first;
+    EXPECT_EQ(c.svg.begin()->first.find('/'), std::string::npos);
+    EXPECT_THAT(c.svg.begin()->first, HasSubstr(attendu));
+    for (const auto& [fichier, contenu] : c.fichiers)
+      EXPECT_TRUE(fichier.starts_with("etude.") || fichier.starts_with("Svg_etude/")) << fichier;
+  }
+}
+
 TEST(Interaction, UnTitreDuFichierDeDonnees) {
   const course c = tracer("INTE D SECT PRISME TITR 'Courbe du prisme' FIN_INTE");
   EXPECT_THAT(c.txt, HasSubstr("1.0.1. Courbe du prisme\n"));
