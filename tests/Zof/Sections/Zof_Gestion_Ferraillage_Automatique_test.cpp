@@ -584,9 +584,9 @@ TEST(Pose, BarresConfondues) {
   const std::string automatiques = " Duplication de point : prevenir le gestionnaire";
   // Layers less than a millimetre apart.
   verifier_refus({{poutre(automatique("DISP SUPE STRI LITS 2 DIST 0.0005D0 " + r40)), automatiques}});
-  // The second layer of the contour meets the first one of the void, in the middle of both.
+  // The second layer of the contour meets that of the void half way, in the middle of both.
   verifier_refus({{contour("REC_ HAUT 1.D0 LARG 1.2D0 E_SU 0.2D0 E_IN 0.2D0 EP_L 0.2D0 FIN_\n" +
-                           automatique("DISP INFE PARO E_MA 0.6D0 LITS 2 DIST 0.12D0 " + r40)),
+                           automatique("DISP INFE PARO E_MA 0.6D0 LITS 2 DIST 0.06D0 " + r40)),
                    automatiques}});
   // The second layer at the top meets the bars at the bottom.
   verifier_refus({{poutre(automatique("DISP INFE STRI LITS 1 " + r40, "F1") +
