@@ -11,9 +11,6 @@ void qb7_err_reinitialiser() { qb7_err = {}; }
 
 namespace {
 
-constexpr int err_alloc_simplexe =
-    40020;  // an allocation that failed in the simplex: journalled, then ERR_INTERNE
-
 struct nom_d_un_code {
   int code;
   std::string_view nom;
@@ -132,7 +129,7 @@ ier_2 err_traiter(socle::vue_l1 nom_procedure, ier_2 ier) {
     qb7_err.glob_tab_noms_procs[rang] = nom_procedure;
     qb7_err.glob_tab_num_erreurs[rang] = ier.code;
   }
-  if (ier.code == ERR_ALLOC || ier.code == err_alloc_simplexe) ier.code = ERR_INTERNE;
+  if (ier.code == ERR_ALLOC || ier.code == ERR_SIMPLEXE) ier.code = ERR_INTERNE;
   const std::string_view nom = socle::sans_blancs_finals(nom_procedure.octets());
   if (qb7_err.glob_afficher_erreur_et_arreter && !loc_est_attendue(nom, ier.code))
     loc_afficher_et_arreter(nom, ier.code);

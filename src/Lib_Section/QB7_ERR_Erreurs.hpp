@@ -11,6 +11,8 @@
 
 inline constexpr int ERR_INTERNE = 40000;  ///< inconsistent table; a failed allocation once it is passed up
 inline constexpr int ERR_ALLOC = 40010;    ///< table that should be empty, allocation
+inline constexpr int ERR_SIMPLEXE =
+    40020;  ///< sizes of a linear programme; nameless, ERR_INTERNE once it is passed up
 inline constexpr int ERR_FICHIER_TRACE = 40030;     ///< trace file not opened
 inline constexpr int ERR_DIM_TAB = 42000;           ///< sizes of two arrays differ
 inline constexpr int ERR_DIM_DEFORM = 42010;        ///< strain plane without three values

@@ -333,9 +333,9 @@ ier_2 qb7_diagramme_interaction(bool bornes, int num_section, int num_etat_lim, 
 /// Success has for detail the method that found the steel: 1 the plain iteration, 2 the one with a line
 /// search, 0 when no law has a limit, so that nothing bounds the section (every coefficient is then 0.01).
 /// Failures: ERR_DIM_TAB (number of loadings): sizes that differ; ERR_SURFACE_ZONE (zone): a zone to be
-/// designed has no area in any loading. Two are results and do not end a run: ERR_DIM_ACIERS (rank of the
-/// loading): no quantity of steel carries it; ERR_ECHEC_OPTIM: the steel that was reached stays in the zones,
-/// not optimal and perhaps short of what is needed.
+/// designed has no area. Two are results and do not end a run: ERR_DIM_ACIERS (rank of the loading): no
+/// quantity of steel, the same in every zone, carries it; ERR_ECHEC_OPTIM: neither method ended; the steel
+/// that was reached stays in the zones, not optimal and perhaps short of what is needed.
 ier_2 qb7_dimensionner(int num_section, std::span<const int> tab_num_etat_lim,
                        std::span<const int> tab_num_etat, std::span<const efforts> tab_efforts,
                        std::optional<int> opt_choix_base_pref = {});

@@ -1,8 +1,10 @@
 // The computing side of the facade: the work tables are built afresh at each call, then asked.
 #include <algorithm>
+#include <cstddef>
 
 #include "QB7_Acces.hpp"
 #include "QB7_Diagramme.hpp"
+#include "QB7_Dim.hpp"
 #include "QB7_ERR_Erreurs.hpp"
 #include "QB7_Efforts.hpp"
 #include "QB7_Efforts_Generalises.hpp"
@@ -194,5 +196,18 @@ ier_2 qb7_diagramme_interaction(bool bornes, int num_section, int num_etat_lim, 
     const ier_2 ier = dgi_interaction(bornes, section, num_etat_lim, mat_plan, c, xy_points);
     if (ier) std::ranges::fill(xy_points, point_xy{});
     return ier;
+  });
+}
+
+// ---- Design ----
+
+ier_2 qb7_dimensionner(int num_section, std::span<const int> tab_num_etat_lim,
+                       std::span<const int> tab_num_etat, std::span<const efforts> tab_efforts,
+                       std::optional<int> opt_choix_base_pref) {
+  return qb7_sur_section("QB7_Dimensionner", num_section, [&](gbd_section& section) {
+    const std::size_t ns = tab_efforts.size();
+    if (tab_num_etat_lim.size() != ns || tab_num_etat.size() != ns)
+      return ier_2{ERR_DIM_TAB, static_cast<int>(ns)};
+    return dim_dimensionner(section, tab_num_etat_lim, tab_num_etat, tab_efforts, opt_choix_base_pref);
   });
 }

@@ -117,3 +117,46 @@ ier_2 gbd_sect_fixer_activ_totale(gbd_section& section, int num_zone, bool activ
     if (r.m == marque::descendante) r.zone->etat_zone.active = active;
   return {};
 }
+
+// ---- States ----
+
+ier_2 gbd_sect_creer_etat(gbd_section& section, int num_etat, const deformation& deform_section) {
+  gbd_sect_etat etat;
+  etat.num_etat = num_etat;
+  etat.repere_sollicitation = section.repere_sollicitation;
+  etat.deform_section = deform_section;
+  for (const gbd_zone& zone : section.lst_zones) etat.lst_etat_zones.lst_inserer_elt(zone.etat_zone, true);
+  return gbd_sect_etat_lst_ajouter(section.lst_etats, std::move(etat));
+}
+
+namespace {
+
+/// Puts back the frame and gives the plane of a state; des_zones is called for each zone with what the state
+/// holds of it, null if nothing.
+template <class action_t>
+ier_2 loc_reprendre_etat(gbd_section& section, int num_etat, deformation* deform_section,
+                         action_t&& des_zones) {
+  ier_2 ier;
+  gbd_sect_etat* etat = gbd_sect_etat_lst_chercher(section.lst_etats, num_etat, ier);
+  if (ier) return ier;
+  section.repere_sollicitation = etat->repere_sollicitation;
+  if (deform_section != nullptr) *deform_section = etat->deform_section;
+  for (gbd_zone& zone : section.lst_zones)
+    des_zones(zone, etat->lst_etat_zones.lst_chercher_elt(zone.num_zone));
+  return {};
+}
+
+}  // namespace
+
+ier_2 gbd_sect_rappeller_etat(gbd_section& section, int num_etat, deformation* deform_section) {
+  return loc_reprendre_etat(section, num_etat, deform_section, [](gbd_zone& zone, const gbd_zone_etat* tenu) {
+    zone.etat_zone = tenu != nullptr ? *tenu : gbd_zone_etat{};
+    zone.etat_zone.num_zone = zone.num_zone;
+  });
+}
+
+ier_2 gbd_sect_completer_etat(gbd_section& section, int num_etat, deformation* deform_section) {
+  return loc_reprendre_etat(section, num_etat, deform_section, [](gbd_zone& zone, const gbd_zone_etat* tenu) {
+    if (tenu != nullptr && tenu->active) zone.etat_zone = *tenu;
+  });
+}

@@ -53,3 +53,12 @@ ier_2 gbd_sect_pt_zone_mere(gbd_section& section, const gbd_zone& zone, bool act
 /// Activity of a zone and of all its descendants. ERR_NON_ZONE (zone); ERR_NON_MERE (mother) when any zone of
 /// the section has a mother that does not exist; ERR_HERITAGE (zone) when any zone descends from itself.
 ier_2 gbd_sect_fixer_activ_totale(gbd_section& section, int num_zone, bool active);
+
+/// A snapshot of the frame, of a plane, and of what a phase can change of each zone. ERR_ETAT_EXISTE (number)
+/// unless qb7_par_ecraser_permis is true.
+ier_2 gbd_sect_creer_etat(gbd_section& section, int num_etat, const deformation& deform_section = {});
+
+/// Puts the section back as it was; a zone that the state does not hold becomes inactive, without plane nor
+/// history. Completing does the same for the zones alone that the state holds active. ERR_NON_ETAT (number).
+ier_2 gbd_sect_rappeller_etat(gbd_section& section, int num_etat, deformation* deform_section = nullptr);
+ier_2 gbd_sect_completer_etat(gbd_section& section, int num_etat, deformation* deform_section = nullptr);
