@@ -1,5 +1,7 @@
-// Reading of the data: load cases through lexemes, queues and phrases to finished terms, with both echoes.
+// Reading of the data: load cases through lexemes, the data language, queues and phrases to finished terms,
+// with both echoes.
 #include <benchmark/benchmark.h>
+#include <sys/resource.h>
 
 #include <cstdio>
 #include <string>
@@ -74,10 +76,24 @@ void loc_lire_cas(double& somme, bool& erco) {
   and_lire_deb_nom(mot, 8, erco);
 }
 
-// Time must grow with the number of cases, no faster: 1 000, 10 000, 100 000.
-void BM_CasDeCharge(benchmark::State& etat) {
+/// The same grid of cases written by directed lists, a thousand by each of them.
+std::string loc_listes_dirigees(int nombre) {
+  std::string d;
+  for (int i = 0; i < nombre; i += 1000)
+    d += "< < < < EFFO G N (0.1 * I) MY (0.012 * J) MZ (0.012 * K) FIN_EFFO\n"
+         "> I = 1 A 10 > J = 1 A 10 > K = 1 A 10 >\n";
+  return d;
+}
+
+/// Greatest memory of the process so far; of the reading alone when nothing else has run in it.
+double loc_memoire() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return static_cast<double>(usage.ru_maxrss) / 1024.0;
+}
+
+void loc_mesurer_lecture(benchmark::State& etat, const std::string& donnees) {
   const auto nombre = static_cast<int>(etat.range(0));
-  const std::string donnees = loc_cas_de_charge(nombre);
   for (auto _ : etat) {
     entree_en_memoire entree(donnees);
     sortie_comptee console;
@@ -91,6 +107,22 @@ void BM_CasDeCharge(benchmark::State& etat) {
   }
   etat.SetItemsProcessed(etat.iterations() * nombre);
   etat.SetComplexityN(nombre);
+  etat.counters["peak_MB"] = loc_memoire();
+}
+
+// Time must grow with the number of cases, no faster: 1 000, 10 000, 100 000. Memory must not: a phrase is
+// over when the next one is read.
+void BM_CasDUneListeDirigee(benchmark::State& etat) {
+  loc_mesurer_lecture(etat, loc_listes_dirigees(static_cast<int>(etat.range(0))));
+}
+BENCHMARK(BM_CasDUneListeDirigee)
+    ->RangeMultiplier(10)
+    ->Range(1000, 100000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
+void BM_CasDeCharge(benchmark::State& etat) {
+  loc_mesurer_lecture(etat, loc_cas_de_charge(static_cast<int>(etat.range(0))));
 }
 BENCHMARK(BM_CasDeCharge)
     ->RangeMultiplier(10)

@@ -172,7 +172,8 @@ struct and_global_t : and_terme_t, and_modes_t {
   std::array<int, and_nb_cases_variables> and_positions_variables{};  // of the value, in LISTE 2
   int and_nb_variables = 0;                                           // global ones
   std::array<int, and_nb_maxi_niveaux> and_nb_affectations{};         // values that a level has taken so far
-  int and_nb_niveaux = 1;  // 1 and the levels of the directed list in progress
+  int and_nb_niveaux = 1;                        // 1 and the levels of the directed list in progress
+  std::array<and_terme_t, 3> and_nombres_liste;  // of the list term at work; no list form takes more
   clotho_t dernier_clotho;
 
   int and_debut_echo = 1;

@@ -1,6 +1,7 @@
 #include "And_liste_termes.hpp"
 
 #include <array>
+#include <span>
 
 #include "And_expressions.hpp"
 #include "And_files.hpp"
@@ -36,9 +37,11 @@ struct liste_termes {
   int file = 1;
   int and_op_precedent = and_operateur_debut;
   bool apres_un_operande = false;  // and_type_terme_precedent
-  // Numbers taken in so far; at most three, by the tables.
-  std::size_t nb_nombres = 0;
-  std::array<and_terme_t, 3> nombres;
+  std::size_t nb_nombres = 0;      // of and_nombres_liste that were taken in so far
+
+  [[nodiscard]] std::span<const and_terme_t> nombres() const {
+    return {and_global.and_nombres_liste.data(), nb_nombres};
+  }
 };
 
 int loc_ligne(int operateur) {
@@ -79,7 +82,7 @@ action and_precedence_liste_termes(const liste_termes& l) {
 and_resultat loc_echec(const liste_termes& l, vue_l1 message) {
   const and_terme_t faute = and_terme_courant();
   if (l.and_op_precedent == and_operateur_debut && l.apres_un_operande)
-    and_developper_liste(l.and_op_precedent, {l.nombres.data(), l.nb_nombres}, l.file);
+    and_developper_liste(l.and_op_precedent, l.nombres(), l.file);
   and_terme_courant() = faute;
   and_global.and_message = message;
   and_traitement_erreur(l.file, and_classe(faute.and_type_terme) == 4);
@@ -112,7 +115,7 @@ void loc_prendre(liste_termes& l) {
   const and_global_t& g = and_global;
   l.apres_un_operande = g.and_type_terme != type_terme::operateur;
   if (l.apres_un_operande) {
-    l.nombres[l.nb_nombres++] = and_terme_courant();
+    and_global.and_nombres_liste[l.nb_nombres++] = and_terme_courant();
   } else {
     const bool inc_apres_rep = l.and_op_precedent == and_operateur_rep;
     l.and_op_precedent = inc_apres_rep ? and_operateur_rep_inc : g.and_var_entier_ou_operateur;
@@ -120,19 +123,25 @@ void loc_prendre(liste_termes& l) {
   loc_lire(l);
 }
 
-/// The list is whole: the term just looked at belongs to what follows. A term that is no number stands for
-/// itself.
-and_resultat loc_finir(liste_termes& l) {
-  if (l.apres_un_operande)
-    and_reconsulter(l.classe, l.file);
-  else
-    l.nombres[l.nb_nombres++] = and_terme_courant();
-  switch (and_developper_liste(l.and_op_precedent, {l.nombres.data(), l.nb_nombres}, l.file)) {
+and_resultat loc_conclure(const liste_termes& l, and_serie serie) {
+  switch (serie) {
     case and_serie::une_valeur: return and_resultat::une_valeur;
     case and_serie::plusieurs: return and_resultat::plusieurs;
     case and_serie::file_pleine: return and_depassement_liste(l.file);
     default: and_traitement_erreur(l.file, false); return and_resultat::echec;
   }
+}
+
+/// The list is whole: the term just looked at belongs to what follows. A term that is no number stands for
+/// itself.
+and_resultat loc_finir(const liste_termes& l) {
+  if (l.apres_un_operande) {
+    and_reconsulter(l.classe, l.file);
+    return loc_conclure(l, and_developper_liste(l.and_op_precedent, l.nombres(), l.file));
+  }
+  and_ecriture(3, l.file);
+  const bool ecrit = and_global.and_type_terme != type_terme::erreur_capacite;
+  return loc_conclure(l, ecrit ? and_serie::une_valeur : and_serie::file_pleine);
 }
 
 /// A bracket: several values make a whole unit, one becomes the current term.

@@ -9,7 +9,6 @@
 #include "And_files.hpp"
 #include "And_global.hpp"
 #include "And_termes.hpp"
-#include "Arithmetique.hpp"
 
 using socle::vue_l1;
 
@@ -108,7 +107,7 @@ bool loc_pas_de_division(const and_terme_t& a, const and_terme_t& b, int n, and_
     return true;
   }
   const std::int64_t d = std::int64_t{b.and_var_entier_ou_operateur} - a.and_var_entier_ou_operateur;
-  pas = and_entier(socle::tronquer(static_cast<double>(d / n)));
+  pas = and_entier(static_cast<int>(d / n));
   return pas.and_var_entier_ou_operateur != 0;
 }
 
