@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/paquets.sh g++ cmake ninja-build libgtest-dev libgmock-dev clang clang-format clang-tidy binutils git \
-  libxml2-utils chromium
+  libxml2-utils w3c-sgml-lib chromium
 titre() { printf '\n== %s\n' "$*"; }
 
 titre 'Format'

@@ -93,4 +93,21 @@ mkdir ailleurs && touch ailleurs/precieux && rm -rf Svg_a && ln -s ../ailleurs S
 cas 'a link in place of the drawing directory' 0 'FIN DE L EXECUTION' a.zof
 [ -e ailleurs/precieux ] || { echo 'a file behind a link was removed'; fautes=1; }
 [ -d Svg_a ] && [ ! -L Svg_a ] || { echo 'the drawing directory was not made anew'; fautes=1; }
+
+# Drawings that can't be written: the run goes on to its end, which tells the first of them.
+cat >dessin.zof <<'FIN'
+ZOF
+MATE BETON C30 TITR 'Beton' FCK 30. PREC NON FIN_MATE
+SECT P TITR 'Poutre' CONT C MATE C30 RECT HAUT 0.6 LARG 0.3 FIN_RECT FIN_CONT FIN_SECT
+EDIT SECT P
+TITR 'apres le dessin'
+FIN_
+FIN
+cas 'a section drawn' 0 'FIN DE L EXECUTION' dessin.zof
+[ "$(ls Svg_dessin | tr '\n' ' ')" = 'P_1.svg P_1_D.svg ' ] || { echo 'drawings of a section:'; ls Svg_dessin; fautes=1; }
+rm -rf Svg_dessin && touch Svg_dessin
+"$zof" dessin.zof >console 2>erreurs
+[ $? -eq 1 ] && [ "$(wc -l <erreurs)" -eq 1 ] && grep -q 'P_1.svg' erreurs || { echo 'a file in place of the drawing directory: status or message'; fautes=1; }
+LC_ALL=C grep -a -q 'apres le dessin' dessin.txt || { echo 'a run without drawings did not go on'; fautes=1; }
+[ ! -s Svg_dessin ] || { echo 'a file in place of the drawing directory was written to'; fautes=1; }
 exit $fautes
