@@ -150,18 +150,18 @@ void utl_04_entete_svg(const utl_04_couleur& opt_couleur_fond) {
   loc_controler(opt_couleur_fond, "UTL_04_Entete_SVG");
   const std::string largeur = std::to_string(utl_04.glb_taille_fenetre[0]);
   const std::string hauteur = std::to_string(utl_04.glb_taille_fenetre[1] + utl_04.glb_taille_y_legende);
+  constexpr std::string_view type_document =
+      "<?xml version='1.0' standalone='no'?>\n"
+      "<!DOCTYPE svg PUBLIC '-//W3C//DTD SVG 1.1//EN' 'http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd'>\n";
+  constexpr std::string_view espaces_de_noms =
+      "xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'";
+  loc_ecrire(type_document);
   // The view box lets a note that is narrower than the drawing, or a printed sheet, show it entire.
-  loc_ecrire(
-      concat({"<?xml version='1.0' standalone='no'?>\n"
-              "<!DOCTYPE svg PUBLIC '-//W3C//DTD SVG 1.1//EN' "
-              "'http://www.w3.org/Graphics/SVG/1.1/DTD/svg11.dtd'>\n"
-              "<svg height='",
-              hauteur, "' width='", largeur, "' preserveAspectRatio='xMidYMid meet' viewBox='0 0 ", largeur,
-              " ", hauteur,
-              "' xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
-              "version='1.1'>\n"
-              "<rect x='0' y='0' width='",
-              largeur, "' height='", hauteur, "' fill=\"", loc_rgb(opt_couleur_fond), "\" />\n"}));
+  loc_ecrire(concat({"<svg height='", hauteur, "' width='", largeur,
+                     "' preserveAspectRatio='xMidYMid meet' viewBox='0 0 ", largeur, " ", hauteur, "' ",
+                     espaces_de_noms, " version='1.1'>\n"}));
+  loc_ecrire(concat({"<rect x='0' y='0' width='", largeur, "' height='", hauteur, "' fill=\"",
+                     loc_rgb(opt_couleur_fond), "\" />\n"}));
 }
 
 void utl_04_finaliser_svg() {

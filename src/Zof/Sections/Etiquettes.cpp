@@ -29,6 +29,12 @@ double loc_largeur(std::size_t nombre_caracteres, int taille_police) {
   return chasse * taille_police * static_cast<double>(nombre_caracteres);
 }
 
+// Of the cell that holds a coordinate; what lies outside of the window belongs to the cells at its edge.
+std::size_t loc_rang(double v, std::size_t nombre) {
+  const auto dernier = static_cast<double>(nombre - 1);
+  return static_cast<std::size_t>(std::clamp(std::floor(v / cote_cellule), 0.0, dernier));
+}
+
 }  // namespace
 
 etiquettes::etiquettes(double largeur, double hauteur, int taille_police)
@@ -43,16 +49,11 @@ bool etiquettes::cellule::pleine() const {
   return textes.size() + cercles.size() + segments.size() >= contenu_max;
 }
 
-std::size_t etiquettes::rang(double v, std::size_t nombre) const {
-  const auto dernier = static_cast<double>(nombre - 1);
-  return static_cast<std::size_t>(std::clamp(std::floor(v / cote_cellule), 0.0, dernier));
-}
-
 // The cells under a box, until the operation gives false for one of them.
 template <class operation>
 bool etiquettes::pour_chaque_cellule(const boite& b, operation&& o) {
-  for (std::size_t j = rang(b.haut, lignes_); j <= rang(b.bas, lignes_); ++j)
-    for (std::size_t i = rang(b.gauche, colonnes_); i <= rang(b.droite, colonnes_); ++i)
+  for (std::size_t j = loc_rang(b.haut, lignes_); j <= loc_rang(b.bas, lignes_); ++j)
+    for (std::size_t i = loc_rang(b.gauche, colonnes_); i <= loc_rang(b.droite, colonnes_); ++i)
       if (!o(cellules_[j * colonnes_ + i])) return false;
   return true;
 }
@@ -76,7 +77,7 @@ void etiquettes::ajouter_segment(point a, point b) {
     const double t = static_cast<double>(k) / pas;
     const double x = a.x + t * (b.x - a.x);
     const double y = a.y + t * (b.y - a.y);
-    cellule& c = cellules_[rang(y, lignes_) * colonnes_ + rang(x, colonnes_)];
+    cellule& c = cellules_[loc_rang(y, lignes_) * colonnes_ + loc_rang(x, colonnes_)];
     if (&c != precedente && !c.pleine()) c.segments.push_back({a, b});
     precedente = &c;
   }

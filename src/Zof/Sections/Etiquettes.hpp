@@ -48,7 +48,6 @@ class etiquettes {
     [[nodiscard]] bool pleine() const;
   };
 
-  [[nodiscard]] std::size_t rang(double v, std::size_t nombre) const;
   template <class operation>
   bool pour_chaque_cellule(const boite& b, operation&& o);
   [[nodiscard]] bool libre(const boite& b, bool hors_des_segments);
