@@ -32,6 +32,9 @@ constexpr double place_fleche = 20;  // pixels at the end of an axis without a t
 constexpr double ecart_texte = 4;    // pixels between a line and a text
 constexpr double bord = 1;           // pixels that a text keeps from the edge of the window
 constexpr double largeur_axe = 1;
+// From this part of the window on, an axis counts as off the middle: about the middle, rounding must not
+// choose.
+constexpr double part_excentree = 0.6;
 constexpr double largeur_grille = 0.5;
 
 double loc_borner(double v, double maximum) { return std::isfinite(v) ? std::clamp(v, 0.0, maximum) : 0; }
@@ -117,8 +120,8 @@ void loc_ligne(const utl_04_point& a, const utl_04_point& b, const utl_04_couleu
 
 }  // namespace
 
-// Values stand on the side of the nearer edge, where a drawing has the least to cover; the label on the other
-// one if it has room.
+// Values stand below, or above an axis that runs clearly nearer to the upper edge, where a drawing has the
+// least to cover; the label on the other side if it has room.
 void utl_04_afficher_axex_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 opt_epaisseur_police) {
   if (!utl_04.glb_afficher_axex) return;
   const police p{opt_taille_police, opt_epaisseur_police};
@@ -129,7 +132,7 @@ void utl_04_afficher_axex_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 op
   const double dessus = y - demi_trait - ecart_texte / 2;
   const bool place_dessous = dessous + ecart_texte <= ny;
   const bool place_dessus = dessus >= p.taille;
-  const bool valeurs_dessous = place_dessous && (y >= ny / 2 || !place_dessus);
+  const bool valeurs_dessous = place_dessous && (y >= ny * (1 - part_excentree) || !place_dessus);
   const bool label_dessous = valeurs_dessous ? !place_dessus : place_dessous;
   const double pied_valeurs = valeurs_dessous ? dessous : dessus;
   double pied_label = label_dessous ? dessous : dessus;
@@ -159,7 +162,8 @@ void utl_04_afficher_axex_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 op
   }
 }
 
-// As for the other axis: values on the side of the nearer edge, the label on the other one.
+// As for the other axis: values on the left, or on the right of an axis that runs clearly nearer to that
+// edge.
 void utl_04_afficher_axey_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 opt_epaisseur_police) {
   if (!utl_04.glb_afficher_axey) return;
   const police p{opt_taille_police, opt_epaisseur_police};
@@ -174,7 +178,8 @@ void utl_04_afficher_axey_svg(vue_l1 opt_label, int opt_taille_police, vue_l1 op
   const double recul = demi_trait + ecart_texte;
   const bool place_a_gauche = x - recul - largeur_max >= bord;
   const bool place_a_droite = x + recul + largeur_max <= nx - bord;
-  const bool valeurs_a_gauche = place_a_gauche ? x <= nx / 2 || !place_a_droite : x > nx / 2;
+  const bool valeurs_a_gauche =
+      place_a_gauche ? x <= nx * part_excentree || !place_a_droite : x > nx * part_excentree;
   const double x_valeurs = valeurs_a_gauche ? x - recul : x + recul;
   const double x_label = valeurs_a_gauche ? x + recul : x - recul;
   const auto ancrage = [](bool a_gauche) { return a_gauche ? utl_04_ancrage::fin : utl_04_ancrage::debut; };

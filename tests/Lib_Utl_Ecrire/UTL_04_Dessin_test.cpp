@@ -418,6 +418,22 @@ TEST_F(Dessin, LAxeY) {
   EXPECT_THAT(axe, HasSubstr("<text x='108.000' y='10.000' "));
 }
 
+// An axis along the upper edge, as that of a tee: y = 40 of 400. Values above it, the label below. About the
+// middle they stay below, on whichever side of it rounding puts the axis.
+TEST_F(Dessin, LesValeursDUnAxeExcentreSontDuCoteDuBord) {
+  const auto axe = [&](double z_max) {
+    utl_04_initialise_svg({200, 400}, {-1, 3}, {z_max - 10, z_max},
+                          {.opt_dx_grille = 1, .opt_afficher_axex = true, .opt_label_axe_x = "y"});
+    svg();
+    utl_04_afficher_axex_svg();
+    return svg();
+  };
+  EXPECT_THAT(axe(1), HasSubstr("<text x='100.000' y='34.000' "));
+  EXPECT_THAT(axe(1), HasSubstr("<text x='196.000' y='54.000' "));
+  EXPECT_THAT(axe(4.999999), HasSubstr("<text x='100.000' y='214.000' "));
+  EXPECT_THAT(axe(5.000001), HasSubstr("<text x='100.000' y='214.000' "));
+}
+
 TEST_F(Dessin, LesAxesNeSontTracesQueSIlsSontDemandes) {
   const auto axes = [] {
     utl_04_afficher_axex_svg("u");
