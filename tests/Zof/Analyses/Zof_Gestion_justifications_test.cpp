@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <memory>
 #include <numbers>
@@ -482,6 +484,21 @@ TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
             nombre_de(svg, "stroke:rgb(255,0,0)") + nombre_de(svg, "stroke:rgb(0,0,0)") +
                 nombre_de(svg, "stroke:rgb(192,192,192)") + nombre_de(svg, "stroke:rgb(0,0,255)"));
   EXPECT_EQ(nombre_de(svg, "stroke:rgb(255,0,0)"), 12U);
+  // A cross is a twenty-fifth of the curve in width and height: pixels of the path against those of a line.
+  std::istringstream chemin(svg.substr(svg.find("<path d='M") + 9));
+  std::vector<double> xs;
+  std::vector<double> ys;
+  char lettre = 0;
+  for (double x = 0, y = 0; chemin >> lettre && lettre != '\'' && chemin >> x >> y;) {
+    xs.push_back(x);
+    ys.push_back(y);
+  }
+  ASSERT_EQ(xs.size(), 101U);
+  const std::string ligne = svg.substr(svg.rfind("<line ", svg.find("stroke:rgb(255,0,0)")));
+  const auto [gauche, droite] = std::ranges::minmax(xs);
+  const auto [haut, bas] = std::ranges::minmax(ys);
+  EXPECT_NEAR(nombre_apres(ligne, "x2='") - nombre_apres(ligne, "x1='"), (droite - gauche) / 25, 0.01);
+  EXPECT_NEAR(nombre_apres(ligne, "y1='") - nombre_apres(ligne, "y2='"), (bas - haut) / 25, 0.01);
   for (int i = 1; i <= 6; ++i) EXPECT_EQ(nombre_de(svg, ">E" + std::to_string(i) + "</text>"), 1U) << i;
   EXPECT_TRUE(svg.ends_with("</svg>\n"));
   EXPECT_THAT(html(), HasSubstr("MZ_0_1.svg"));
