@@ -7,6 +7,7 @@
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
 #include "Zof_Gestion_Sollicitations.hpp"
+#include "Zof_Gestion_dimensionnement.hpp"
 #include "Zof_Gestion_interactions.hpp"
 #include "Zof_Gestion_justifications.hpp"
 #include "Zof_Options.hpp"
@@ -40,6 +41,7 @@ void loc_executer(const texte<4>& mot, bool& materiau, bool& erco) {
     case "SOLL"_mot: zof_decoder_sollicitations(erco); break;
     case "JUST"_mot: zof_traiter_justifications(erco); break;
     case "INTE"_mot: zof_traiter_interactions(erco); break;
+    case "DIME"_mot: zof_traiter_dimensionnement(erco); break;
     case "EDIT"_mot: zof_editer(erco); break;
     default: zof_attribut_incorrect(mot, erco); break;
   }

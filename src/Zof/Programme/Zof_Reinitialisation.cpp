@@ -11,6 +11,7 @@
 #include "Zof_Gestion_Materiau.hpp"
 #include "Zof_Gestion_Section.hpp"
 #include "Zof_Gestion_Sollicitations.hpp"
+#include "Zof_Gestion_dimensionnement.hpp"
 #include "Zof_Gestion_justifications.hpp"
 #include "Zof_Options.hpp"
 
@@ -28,4 +29,5 @@ void zof_reinitialiser() {
   gestion_section_reinitialiser();
   gestion_sollicitations_reinitialiser();
   gestion_justifications_reinitialiser();
+  gestion_dimensionnement_reinitialiser();
 }
