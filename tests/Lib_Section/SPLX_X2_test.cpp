@@ -322,6 +322,19 @@ TEST(Simplexe, MarquesDeLaDerniereBase) {
   EXPECT_THAT(s.base, ElementsAre(0, 0, 1, 1));
 }
 
+// Of equal rows the first is taken, of equal ratios the lowest place leaves: a design does not depend on
+// chance.
+TEST(Simplexe, EgalitesAuPremier) {
+  EXPECT_THAT(resoudre({.lignes = {{1}, {1}, {-1}}, .b = {1, 1, 0}, .c = {-1}}).base, ElementsAre(1, 0, 0));
+  const solution s = resoudre({.lignes = {{-1, 0}, {0, -1}, {-1, -1}, {-1, -1}},
+                               .b = {0, 0, -1, -1},
+                               .c = {1, 1},
+                               .preferees = {1, 1, 0, 0}});
+  EXPECT_THAT(s.base, ElementsAre(0, 1, 1, 0));
+  EXPECT_NEAR(s.x[0], 1, 1e-15);
+  EXPECT_EQ(s.x[1], 0);
+}
+
 TEST(Simplexe, DimensionsQuiNeVontPasEnsemble) {
   const programme p = {.lignes = {{1, 0}, {0, 1}, {1, 1}}, .b = {1, 1, 1}, .c = {1, 1}};
   const splx_matrice a = matrice(p);

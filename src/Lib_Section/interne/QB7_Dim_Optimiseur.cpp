@@ -220,9 +220,10 @@ void loc_choisir_une_base_preferencielle(qb7_dim_t& dim) {
   const auto lignes = std::span(dim.i_ligne);
   const size_t bloc = 3 * dim.glob_pointeurs.size();
   std::ranges::fill(lignes, 0);
-  if (dim.choix_base_pref != 1 && dim.choix_base_pref != 2) return;
+  const int choix = dim.choix_base_pref.value_or(0);
+  if (choix < 1 || choix > 2) return;
   std::ranges::fill(lignes.first(dim.nbre_vars()), 1);
-  const size_t depuis_la_fin = dim.choix_base_pref == 1 ? 2 * bloc : bloc;
+  const size_t depuis_la_fin = choix == 1 ? 2 * bloc : bloc;
   std::ranges::fill(lignes.subspan(lignes.size() - depuis_la_fin, bloc), 1);
 }
 
