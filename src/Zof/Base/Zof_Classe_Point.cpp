@@ -42,7 +42,7 @@ double zof_distance_points(const zof_point& a, const zof_point& b) {
   return std::sqrt(dy * dy + dz * dz);
 }
 
-double zof_norme_vecteur(const vecteur_yz& v) { return std::sqrt(v.y * v.y + v.z * v.z); }
+double zof_norme_vecteur(const vecteur_yz& v) { return std::hypot(v.y, v.z); }
 
 vecteur_yz zof_vecteur_norme(const vecteur_yz& v) {
   const double norme = zof_norme_vecteur(v);

@@ -49,7 +49,7 @@ void zof_supprimer_point(uef_vector& vecteur_points, int numero_point);
 
 double zof_distance_points(const zof_point& a, const zof_point& b);
 
-/// Length of a vector.
+/// Length of a vector; its squares may overflow or vanish.
 double zof_norme_vecteur(const vecteur_yz& v);
 /// The unit vector of the same direction; a vector without length ends the run.
 vecteur_yz zof_vecteur_norme(const vecteur_yz& v);

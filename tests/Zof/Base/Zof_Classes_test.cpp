@@ -158,6 +158,13 @@ TEST(Vecteurs, NormeEtPerpendiculaire) {
   EXPECT_DOUBLE_EQ(zof_distance_points(zof_point(1, 1), zof_point(4, 5)), 5);
   EXPECT_DOUBLE_EQ(zof_norme_vecteur({3, 4}), 5);
   EXPECT_EQ(zof_vecteur_norme({3, 4}), (vecteur_yz{0.6, 0.8}));
+  // Squares of these are no numbers any more, or nothing.
+  for (const double unite : {1e200, 1e-200}) {
+    EXPECT_DOUBLE_EQ(zof_norme_vecteur({3 * unite, 4 * unite}), 5 * unite);
+    const vecteur_yz u = zof_vecteur_norme({3 * unite, 4 * unite});
+    EXPECT_DOUBLE_EQ(u.y, 0.6);
+    EXPECT_DOUBLE_EQ(u.z, 0.8);
+  }
   EXPECT_EQ(zof_vecteur_points_normalise(zof_point(1, 1), zof_point(4, 5)), (vecteur_yz{0.6, 0.8}));
   EXPECT_EQ(zof_vecteur_perpendiculaire_vecteur({2, 0}), (vecteur_yz{0, 1})) << "to the left";
   EXPECT_EQ(zof_vecteur_segment(loc_segment(1, 1, 4, 5)), (vecteur_yz{3, 4}));

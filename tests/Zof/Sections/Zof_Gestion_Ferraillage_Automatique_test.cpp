@@ -580,6 +580,15 @@ TEST(Pose, NombresEnormes) {
                    message}});
 }
 
+// Sides whose squares overflow still have a direction: the run ends with a message on the data.
+TEST(Pose, ContourDemesure) {
+  const std::string message = " Numero de point incorrect >99999";
+  for (const char* const cote : {"1.D100", "1.D160", "1.D200"})
+    verifier_refus({{contour(std::string("RECT HAUT ") + cote + " LARG " + cote + " FIN_RECT\n" +
+                             automatique("DISP PERI STRI LITS 1 " + r40)),
+                     message}});
+}
+
 TEST(Pose, BarresConfondues) {
   const std::string automatiques = " Duplication de point : prevenir le gestionnaire";
   // Layers less than a millimetre apart.
