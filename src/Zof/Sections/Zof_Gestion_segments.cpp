@@ -54,7 +54,8 @@ struct coin {
 // u arrives at the corner, v leaves it. v - u halves the angle between the sides, on the side to which the
 // outline turns: to the left at a salient corner, to the right at a re-entrant one. The sense of the turn is
 // read from the product of the directions, of which zof_angle_segments has the sign: the angle itself is lost
-// by acos where the sides are nearly aligned.
+// by acos where the sides are nearly aligned. Its half has v - u for twice its cosine and u + v for twice its
+// sine: unlike acos(-u.v) / 2 that is exact for a spike too, where the outline comes back on itself.
 coin loc_coin(const vecteur_yz& u, const vecteur_yz& v) {
   const vecteur_yz ecart{v.y - u.y, v.z - u.z};
   if (zof_norme_vecteur(ecart) < ecart_directions_alignees)
@@ -63,7 +64,7 @@ coin loc_coin(const vecteur_yz& u, const vecteur_yz& v) {
   c.entrant = u.y * v.z - u.z * v.y < 0;
   c.bissectrice = zof_vecteur_norme(ecart);
   if (c.entrant) c.bissectrice = {-c.bissectrice.y, -c.bissectrice.z};
-  c.demi_angle = std::acos(std::clamp(-(u.y * v.y + u.z * v.z), -1.0, 1.0)) / 2;
+  c.demi_angle = std::atan2(zof_norme_vecteur({u.y + v.y, u.z + v.z}), zof_norme_vecteur(ecart));
   return c;
 }
 

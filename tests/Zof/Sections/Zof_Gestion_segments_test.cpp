@@ -184,6 +184,16 @@ TEST(Segments, CotesAlignesOuPresque) {
   }
 }
 
+// An outline that goes out along a line and comes back on it: no angle, whatever the direction of the line.
+TEST(Segments, PointeSansAngle) {
+  for (int k = 1; k < 90; ++k) {
+    const double y = std::cos(k * pi / 180);
+    const double z = std::sin(k * pi / 180);
+    const faces f = trier({{0, 0}, {1, 0}, {1, 1}, {1 + 2 * y, 1 + 2 * z}, {1 + y, 1 + z}, {0, 1}}, true);
+    EXPECT_LT(std::sin(f.tous[2].m_le_point_extremite.m_angle_bissectrice), 1e-15) << k;
+  }
+}
+
 TEST(Segments, EnErreurLesListesRestent) {
   uef_vector contour;
   uef_vector liste;
