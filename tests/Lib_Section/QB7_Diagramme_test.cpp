@@ -2,6 +2,9 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "Moteur_de_test.hpp"
 #include "Systeme_memoire.hpp"
@@ -83,6 +86,17 @@ double sortie_du_rayon(const courbe& points, point_xy depart, point_xy vers) {
   return plus_loin;
 }
 
+/// The targets of all searches of a trace, in their order, as (My, N).
+std::vector<point_xy> forces_essayees(const std::string& trace) {
+  constexpr std::string_view titre = "Efforts_Section  : ";
+  std::vector<point_xy> essais;
+  for (auto ici = trace.find(titre); ici != std::string::npos; ici = trace.find(titre, ici + 1)) {
+    const auto debut = ici + titre.size();
+    essais.push_back({std::stod(trace.substr(debut + 16, 16)), std::stod(trace.substr(debut, 16))});
+  }
+  return essais;
+}
+
 void est_sens_direct_et_presque_convexe(const courbe& points, double tolerance) {
   double aire = 0;
   for (std::size_t i = 0; i < points.size(); ++i) {
@@ -142,6 +156,100 @@ TEST_F(Diagramme, QuatrePointsSontSurLesAxes) {
   for (std::size_t i = 0; i < 4; ++i) {
     EXPECT_NEAR(points[i].x, sommets[i].x, 0.001 * 0.54 * 2);
     EXPECT_NEAR(points[i].y, sommets[i].y, 0.001 * 5.4 * 2);
+  }
+}
+
+// All the forces that are tried, on an elastic section: E A = 5400, E I = 162. The frame is a tenth of 5400 x
+// 0.01 and of 162 x 0.002. From the origin, which is inside, leaps of 2, 4, 8... frames add up until one is
+// outside; the curve is then met by halving, to a thousandth of the frame; the same from the same start the
+// other way.
+TEST_F(Diagramme, LaMarcheDesEssais) {
+  section_elastique();
+  reussit(qb7_fixer_trace_dimensionnement(31, "essai.tra", true, true));
+  const double mz = 0.02;  // no trial stands on the curve but for a rounding
+  const double reste = 1 - mz / 0.135;
+  const courbe points = trouver(my_n_mz, mz, 5);
+  qb7_clore_trace_dimensionnement();
+  const std::vector<point_xy> essais = forces_essayees(m_machine.fichiers["essai.tra"]);
+  const point_xy cadre = {0.0324, 5.4};
+
+  std::size_t i = 0;
+  const auto suivant = [&](double x, double y) {
+    ASSERT_LT(i, essais.size());
+    EXPECT_NEAR(essais[i].x, x, 1e-8) << "trial " << i;
+    EXPECT_NEAR(essais[i].y, y, 1e-7) << "trial " << i;
+    ++i;
+  };
+  const auto interieur = [&](point_xy p) { return std::abs(p.y) / 2.7 + std::abs(p.x) / 0.27 <= reste; };
+  // a ray whose start is inside, along (dx, dy), of which one is zero; the point that it ends with
+  const auto rayon = [&](point_xy depart, point_xy delta, point_xy epsilon) {
+    suivant(depart.x, depart.y);
+    point_xy dedans = depart;
+    point_xy dehors = depart;
+    for (int a = 2;; a *= 2) {
+      dehors = dedans + a * delta;
+      suivant(dehors.x, dehors.y);
+      if (!interieur(dehors)) break;
+      dedans = dehors;
+    }
+    for (;;) {
+      const point_xy milieu = 0.5 * (dedans + dehors);
+      suivant(milieu.x, milieu.y);
+      (interieur(milieu) ? dedans : dehors) = milieu;
+      if (std::abs(dehors.x - dedans.x) <= epsilon.x && std::abs(dehors.y - dedans.y) <= epsilon.y)
+        return milieu;
+    }
+  };
+
+  suivant(0, 0);
+  const point_xy epsilon = 0.001 * cadre;
+  const point_xy droite = rayon({}, {cadre.x, 0}, epsilon);
+  const point_xy gauche = rayon({}, {-cadre.x, 0}, epsilon);
+  const point_xy axe = 0.5 * (droite + gauche);
+  const point_xy haut = rayon(axe, {0, cadre.y}, epsilon);
+  const point_xy bas = rayon(axe, {0, -cadre.y}, epsilon);
+  // the width is the real one, the height the estimate, which was the greater
+  const point_xy centre = 0.5 * (haut + bas);
+  const point_xy etendue = {droite.x - gauche.x, std::max(cadre.y, haut.y - bas.y)};
+  const std::array<point_xy, 4> axes = {
+      {{0.1 * etendue.x, 0}, {0, 0.1 * etendue.y}, {-0.1 * etendue.x, 0}, {0, -0.1 * etendue.y}}};
+  for (const point_xy& delta : axes) {
+    const point_xy p = rayon(centre, delta, 0.001 * etendue);
+    const auto rang = static_cast<std::size_t>(&delta - axes.data());
+    // the longest chord is split last, behind its first end
+    const bool decale = points[rang] != p && std::hypot(points[rang].x - p.x, points[rang].y - p.y) > 1e-6;
+    const point_xy trouve = points[rang + (decale ? 1 : 0)];
+    EXPECT_NEAR(trouve.x, p.x, 1e-7);
+    EXPECT_NEAR(trouve.y, p.y, 1e-7);
+  }
+  // the fifth ray starts in the middle of a chord, whose ends may lie outside: then a first half step back,
+  // of a twentieth of the normal in coordinates that count alike
+  ASSERT_LT(i + 1, essais.size());
+  const point_xy depart = essais[i];
+  const point_xy pas = essais[i + 1] - depart;
+  const double facteur = interieur(depart) ? 2 : -0.5;
+  EXPECT_NEAR(std::abs(pas.x), std::abs(facteur) * 0.05 * 0.27 * reste, 1e-4);
+  EXPECT_NEAR(std::abs(pas.y), std::abs(facteur) * 0.05 * 2.7 * reste, 1e-3);
+  EXPECT_GT(facteur * (pas.x * depart.x + pas.y * depart.y), 0) << "outward";
+}
+
+// Nothing is carried where Mz is 10: the trials stand at the origin, then on eight rays, ten on each, by
+// multiples of the frame.
+TEST_F(Diagramme, LaRechercheDUnPointInterieur) {
+  section_elastique();
+  reussit(qb7_fixer_trace_dimensionnement(31, "essai.tra", true, true));
+  EXPECT_EQ(code_pour(my_n_mz, 10), ERR_NON_POINT_INT);
+  qb7_clore_trace_dimensionnement();
+  const std::vector<point_xy> essais = forces_essayees(m_machine.fichiers["essai.tra"]);
+  ASSERT_EQ(essais.size(), 81U);
+  EXPECT_EQ(essais[0], point_xy{});
+  constexpr std::array<point_xy, 8> rayons = {
+      {{1, 0}, {0.5, 0.5}, {0.5, -0.5}, {0, 1}, {0, -1}, {-0.5, 0.5}, {-0.5, -0.5}, {-1, 0}}};
+  for (std::size_t i = 0; i < 80; ++i) {
+    const point_xy& d = rayons[i / 10];
+    const auto k = static_cast<double>(i % 10 + 1);
+    EXPECT_NEAR(essais[i + 1].x, k * d.x * 0.0324, 1e-8) << i;
+    EXPECT_NEAR(essais[i + 1].y, k * d.y * 5.4, 1e-6) << i;
   }
 }
 

@@ -277,11 +277,22 @@ TEST(Interaction, UnDiagrammeVideEstUneErreur) {
   }
 }
 
+// What no section carries: an empty diagram, up to the end of the numbers. (A literal has an exponent of two
+// digits at most, a larger number is a computed one.)
 TEST(Interaction, DesValeursDemesurees) {
-  for (const std::string valeur : {"1.D300", "-1.D300", "1.7976931348623157D308", "1.D-30"}) {
-    const course c = tracer("INTE D SECT PRISME FIXE MZ " + valeur + " FIN_INTE");
-    EXPECT_EQ(c.statut, valeur == "1.D-30" ? 0 : 1) << valeur;
+  for (const std::string valeur : {"1.D99", "-1.D99", "( 1.D30 ** 10 )", "( 1.1D77 ** 4 )"}) {
+    for (const std::string composante : {"N", "MY", "MZ"}) {
+      const std::string fixe = "FIXE " + composante + " " + valeur;
+      const course c = tracer("INTE D SECT PRISME " + fixe + " FIN_INTE");
+      EXPECT_EQ(c.statut, 1) << fixe;
+      EXPECT_THAT(c.listing, HasSubstr("     - Diagramme d'interactions vide\n")) << fixe;
+    }
   }
+  EXPECT_EQ(tracer("INTE D SECT PRISME FIXE MZ 1.D-30 FIN_INTE").statut, 0);
+  const course c =
+      executer(prisme + soll_prisme() + "JUST PRISME INTE FIXE N ( 1.D30 ** 10 ) SOLL T FIN_JUST\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  EXPECT_THAT(c.txt, HasSubstr("  - - Diagramme d'interactions vide : aucun affichage\n"));
 }
 
 // With the limits the persistent curve ends at 3.5 per mille; without, the concrete yields on, in a
@@ -302,6 +313,44 @@ TEST(Interaction, LesCablesNeComptentPas) {
   EXPECT_GT(std::ranges::min(lus[0].points, {}, &point_xy::y).y, -0.002 * 0.7 * fcd);
 }
 
+// A frame alone, of flanges 300 x 20 and a web 12 mm thick, 0.60 m between the flanges: the plastic moment
+// and the yield force, to which hardening up to the limit adds one per cent. Without the limit it hardens on
+// and on.
+TEST(Interaction, UnProfileSeul) {
+  const std::string profile =
+      "ZOF\nMATE CHAR S355 TITR 'Acier' FY 355. FU 510. FIN_MATE\nSECT H TITR 'Profile' CHAR P MATE S355\n"
+      "POIN NUME 1 Y -0.15D0 Z -0.3D0 FIN_ NUME 2 Y 0.15D0 Z -0.3D0 FIN_ NUME 3 Y 0. Z -0.3D0 FIN_\n"
+      "NUME 4 Y 0. Z 0.3D0 FIN_ NUME 5 Y -0.15D0 Z 0.3D0 FIN_ NUME 6 Y 0.15D0 Z 0.3D0 FIN_ FIN_POIN\n"
+      "PROF NUME 1 ORIG 1 EXTR 2 EPAI 20. FIN_ NUME 2 ORIG 3 EXTR 4 EPAI 12. FIN_\n"
+      "NUME 3 ORIG 5 EXTR 6 EPAI 20. FIN_ FIN_PROF FIN_CHAR FIN_SECT\n";
+  const course c = executer(profile + "INTE D SECT H FIN_INTE\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  const auto lus = tableaux(c.txt);
+  ASSERT_EQ(lus.size(), 1U);
+  const double n = 355 * (2 * 0.3 * 0.02 + 0.6 * 0.012);
+  const double m = 355 * (0.3 * 0.02 * 0.6 + 0.012 * 0.6 * 0.6 / 4);
+  EXPECT_NEAR(plus_grand_x(lus[0]), 1.005 * m, 0.008 * m);
+  EXPECT_NEAR(plus_grand_y(lus[0]), 1.005 * n, 0.008 * n);
+  EXPECT_NEAR(std::ranges::min(lus[0].points, {}, &point_xy::y).y, -1.005 * n, 0.008 * n);
+
+  const course sans = executer(profile + "INTE D SECT H DEFO NON_ FIN_INTE\nFIN_\n");
+  EXPECT_EQ(sans.statut, 1);
+  EXPECT_THAT(sans.listing, HasSubstr("     - Diagramme d'interactions vide\n"));
+}
+
+// Without bars nor concrete there is no gross section whose axes could be the frame.
+TEST(Interaction, DesCablesSeulsNOntPasDeRepere) {
+  const course c = executer(
+      "ZOF\nMATE PREC T15 TITR 'Torons' FP01 1600. FPK 1860. FIN_MATE\nSECT S TITR 'Cables' PREC C1 TITR "
+      "'c'\n"
+      "MATE T15 AIRE 1500. POIN NUME 1 Y -0.1D0 Z -0.4D0 FIN_POIN NUME 2 Y 0.1D0 Z 0.4D0 FIN_POIN FIN_POIN\n"
+      "FIN_PREC FIN_SECT\nINTE D SECT S FIN_INTE\nFIN_\n");
+  EXPECT_EQ(c.statut, 1);
+  EXPECT_THAT(c.console, HasSubstr(" Erreur dans Procedure :QB7_Caracteristiques_Mecaniques\n"
+                                   " Erreur : ERR_E_SX_NUL\n"));
+  EXPECT_TRUE(c.svg.empty());
+}
+
 // A limit state that the situation does not hold is an internal fault: the notes stay open.
 TEST(Interaction, EtatLimiteAbsentDeLaSituation) {
   const course c = tracer("INTE D SECT PRISME SITU ACCI FIN_INTE");
@@ -310,6 +359,33 @@ TEST(Interaction, EtatLimiteAbsentDeLaSituation) {
               HasSubstr("Interaction impossible - ACCIDENT-ELU_DURABLE: Non defini pour un des materiaux\n"));
   EXPECT_THAT(c.html, Not(HasSubstr("</html>")));
   EXPECT_EQ(tracer("INTE D SECT PRISME SITU ACCI ETAT ELU ACCI FIN_INTE").statut, 0);
+}
+
+// A free material has the situations that it was given, and no others: a situation that is asked for is
+// refused where it is read, the situation by default where the limit state is missed.
+TEST(Interaction, SituationAbsenteDeLaSection) {
+  const std::string libre =
+      "ZOF\nMATE SPEC LOI TITR 'Loi libre' SITU SEIS TITR 's' ELU DURA MAX 0.0015D0\n"
+      "INTE EPSI -1. FIN_INTE INTE EPSI 0. A1 20000. FIN_INTE INTE EPSI 0.001D0 A0 20. FIN_INTE FIN_ "
+      "FIN_SITU\n"
+      "FIN_MATE SECT S TITR 's' CONT FUT TITR 'f' MATE LOI RECT HAUT 0.6D0 LARG 0.3D0 FIN_RECT FIN_CONT "
+      "FIN_SECT\n";
+  const course absente = executer(libre + "INTE D SECT S SITU EXPL SERV FIN_INTE\nFIN_\n");
+  EXPECT_EQ(absente.statut, 1);
+  EXPECT_THAT(absente.listing, HasSubstr("\nErreur de commande : \n     - Situation non definie : "
+                                         "EXPLOITATION_SERVICE            \n"));
+  EXPECT_THAT(absente.html, HasSubstr("</html>"));
+  const course par_defaut = executer(libre + "INTE D SECT S FIN_INTE\nFIN_\n");
+  EXPECT_EQ(par_defaut.statut, 1);
+  EXPECT_THAT(par_defaut.console, HasSubstr("Interaction impossible - EXPLOITATION_SERVICE-ELU_DURABLE: Non "
+                                            "defini pour un des materiaux\n"));
+
+  const course c = executer(libre + "INTE D SECT S SITU SEIS FIN_INTE\nFIN_\n");
+  EXPECT_EQ(c.statut, 0) << c.listing;
+  const auto lus = tableaux(c.txt);
+  ASSERT_EQ(lus.size(), 1U);
+  EXPECT_EQ(lus[0].legende, "S:N/My-SEISME-ELU_DURABLE-Mz=0.0000");
+  EXPECT_NEAR(plus_grand_y(lus[0]), 3.6, 0.003 * 3.6);
 }
 
 // ---- The option of JUST
