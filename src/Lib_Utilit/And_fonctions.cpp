@@ -218,10 +218,12 @@ bool loc_refuser(std::initializer_list<vue_l1> message) {
   return false;
 }
 
-/// The point at m.s, by series.
-//   t: abscissa from the point of inflection, over a √π; lo: that of the origin; the tangent at t has turned
-//   by π t²/2 ∫cos = a√π Σ (-1)^n (π/2)^2n     t^(4n+1) / ((2n)!   (4n+1)) ∫sin = a√π Σ (-1)^n (π/2)^(2n+1)
-//   t^(4n+3) / ((2n+1)! (4n+3))
+// clang-format off
+/// The point at m.s, by series, with t the abscissa from the point of inflection over a √π and lo that of the
+/// origin; at t the tangent has turned by π t²/2, hence
+///   ∫cos = a √π Σ (-1)^n (π/2)^(2n)   t^(4n+1) / ((2n)!   (4n+1))
+///   ∫sin = a √π Σ (-1)^n (π/2)^(2n+1) t^(4n+3) / ((2n+1)! (4n+3))
+// clang-format on
 void loc_serie_de_fresnel(clotho_t& m) {
   constexpr double rpi = 1.772453850905518;  // √π
   constexpr double pi = 3.1415926535898;

@@ -203,6 +203,23 @@ TEST(SerieInc, EcartALaFin) {
   EXPECT_EQ(lu("0.D0 A -1.00006D0 INC -.5D0"), "0d -0.5d -1d -1.00006d");
 }
 
+// A step counts as one above 1E-6, and 100000 of them are the most.
+TEST(SerieInc, Bornes) {
+  EXPECT_EQ(lu("0.D0 A 3.D-6 INC 1.02D-6"), "0d 1.02e-06d 2.04e-06d 3e-06d");
+  EXPECT_EQ(lu("0.D0 A 3.D-6 INC .98D-6"), increment);
+  EXPECT_EQ(lu("0.D0 A -3.D-6 INC -1.02D-6"), "0d -1.02e-06d -2.04e-06d -3e-06d");
+  const lecteur l("0 A 200001 INC 2");
+  and_analyse_unite_syntaxique();
+  EXPECT_EQ(and_nb_termes(3, 1), 4);
+  and_lecture(3, 1, -1);
+  EXPECT_EQ(and_global.and_var_entier_ou_operateur, 200001);
+  int nombre = 0;
+  for (and_lecture(3, 1, 1); and_global.and_type_terme == type_terme::entier && nombre <= 100000;
+       and_lecture(3, 1, 1))
+    ASSERT_EQ(and_global.and_var_entier_ou_operateur, 2 * nombre++);
+  EXPECT_EQ(nombre, 100001) << "100000 steps, and the end behind them";
+}
+
 TEST(SerieInc, Refus) {
   for (const std::string donnees :
        {"0 A 1 INC .5", "0. A 1 INC .5", "0. A 1. INC 1", "0 A 10 INC 0", "0. A 1. INC 1E-6", "0 A 10 INC -1",
@@ -228,6 +245,14 @@ TEST(SerieDiv, PartsEgales) {
   EXPECT_EQ(lu("(-2. ** 127) A (2. ** 127) DIV 1"), "-1.70141183e+38s 1.70141183e+38s");
 }
 
+TEST(SerieDiv, CentMilleUneParts) {
+  const lecteur l("0. A 1. DIV 100001");
+  and_analyse_unite_syntaxique();
+  EXPECT_EQ(and_nb_termes(3, 1), 4);
+  and_lecture(3, 1, 1);
+  EXPECT_EQ(and_global.and_type_terme, type_terme::reel_s);
+}
+
 TEST(SerieDiv, Refus) {
   for (const std::string donnees :
        {"0 A 10 DIV 0", "0 A 10 DIV -1", "0 A 10 DIV 2.", "0 A 10. DIV 2", "0 A 5 DIV 10", "1 A 1 DIV 2",
@@ -244,8 +269,9 @@ TEST(SerieRep, ValeursSuccessives) {
   EXPECT_EQ(lu("1.D0 REP 2 INC .5D0"), "1d 1.5d 2d");
   EXPECT_EQ(lu("7 REP 2 INC 0"), "7 7 7");
   EXPECT_EQ(lu("(2 - 1) REP (1 + 1) INC (3)"), "1 4 7");
-  // In single precision: 0 + 10 * 0.1f is 1.0000000149 in double, 1 as a single.
-  EXPECT_EQ(loc_termes("0. REP 10 INC .1").back(), "1s");
+  // In single precision, product and sum are rounded each: 9 * 0.1f gives 0.900000036, and 1 more 1.90000010;
+  // worked out in double and narrowed once it would be 1.89999998.
+  EXPECT_EQ(loc_termes("1. REP 9 INC .1").back(), "1.9000001s");
   EXPECT_EQ(lu("2147483645 REP 2 INC 1"), "2147483645 2147483646 2147483647");
 }
 
@@ -387,6 +413,8 @@ TEST(Chaines, Refus) {
         "(+'a')", "(-'a')", "(1. + 'a')", "('a' + (-2147483647))"})
     EXPECT_EQ(lu(donnees), concatenation) << donnees;
   const std::string longue = "'" + std::string(100, 'x') + "'";
+  const std::string moins_longue = "'" + std::string(99, 'x') + "'";
+  EXPECT_EQ(lu(en_lignes("(" + longue + " + " + moins_longue + " )")), std::string(199, 'X'));
   EXPECT_EQ(lu(en_lignes("(" + longue + " + " + longue + " )")), concatenation)
       << "no term has 202 characters";
 }
@@ -441,11 +469,13 @@ TEST(Fonctions, Refus) {
     refus(nom + "('x')", nom);
   }
   refus("TAN(1.5707963)", "TAN");
+  refus("TAN(1.570797)", "TAN");
   refus("TAN(1.57079630001D0)", "TAN");
   refus("ASIN(1.01)", "ASIN");
   refus("ACOS(-1.01D0)", "ACOS");
   refus("LOG(0.)", "LOG");
-  refus("LOG(1E-7)", "LOG");
+  refus("LOG(9E-7)", "LOG");
+  refus("LOG(-9E-7)", "LOG");
   refus("LOG(1.D-10)", "LOG");
   refus("MAX(1)", "MAX");
   refus("MIN(1, 2, 3)", "MIN");
@@ -460,9 +490,21 @@ TEST(Fonctions, Refus) {
   refus("XCLOT(1., 2., 1000.)", "XCLOT");
   refus("CPTR('I')", "CPTR");
   refus("CPTR(1)", "CPTR");
+  refus("CPTR(1.)", "CPTR");
+  refus("CPTR(1.D0)", "CPTR");
+  refus("YCLOT(1, 2, 3)", "YCLOT");
+  for (const std::string nom : {"ENT", "REEL", "DBLE"}) {
+    refus(nom + "('a')", nom);
+    refus(nom + "(1, 2)", nom);
+  }
+  refus("MIN('a', 'b')", "MIN");
+  refus("MAX('a', 'b')", "MAX");
   // 1 / (π/2 - 1.5707000494), the single nearest to 1.5707
   EXPECT_EQ(lu("(TAN(1.5707))").substr(0, 6), "10386.") << "beside the pole it has a value";
-  EXPECT_EQ(lu("(TAN(1.570796302D0))").back(), 'd');
+  EXPECT_EQ(lu("(TAN(1.570798))").back(), 's');
+  EXPECT_EQ(lu("(TAN(1.5707963005D0))").back(), 'd');
+  EXPECT_EQ(lu("(LOG(1.1E-6))").back(), 's');
+  EXPECT_EQ(lu("(ASIN(-1.) + ACOS(-1.) - ACOS(0.))"), "0s") << "-π/2 + π - π/2: the ends belong to them";
   EXPECT_EQ(lu("(LOG(1.D-9))").back(), 'd');
 }
 
@@ -507,7 +549,7 @@ point loc_clothoide_par_integration(double a, double r, double s) {
 TEST(Clothoide, ContreUneIntegration) {
   const lecteur l("");
   for (const double a : {50.0, 120.0, 300.0})
-    for (const double r : {200.0, -350.0, 1000.0, 1e9})
+    for (const double r : {200.0, -350.0, 1000.0, 2.4e6, 2.6e6, 1e9})
       for (const double s : {-80.0, 0.0, 1.0, 37.5, 100.0}) {
         if (std::abs(s + a * a / r) > 2.5 * a || std::abs(a * a / r) > 2.5 * a) continue;
         double x = 99;
@@ -534,6 +576,10 @@ TEST(Clothoide, LesMemesDonneesDonnentLesMemesPoints) {
   EXPECT_EQ(y1, y2);
   clotho(50, 200, 31, x2, y2, erreur);
   EXPECT_NE(x1, x2);
+  clotho(50, 201, 31, x1, y1, erreur);
+  EXPECT_NE(y1, y2) << "another radius";
+  clotho(51, 201, 31, x2, y2, erreur);
+  EXPECT_NE(y1, y2) << "another parameter";
   clotho(1, 1, 1000, x2, y2, erreur);
   EXPECT_TRUE(erreur) << "more turns than ten terms can follow";
   clotho(1, 1, 1000, x2, y2, erreur);
@@ -542,6 +588,26 @@ TEST(Clothoide, LesMemesDonneesDonnentLesMemesPoints) {
   EXPECT_TRUE(erreur);
   clotho(1, -1e-6, 1, x2, y2, erreur);
   EXPECT_TRUE(erreur);
+}
+
+// Of a clothoid of 100 m almost straight at its origin the tenth term falls under a micrometre up to 275 m,
+// not beyond: the lengths of the terms were summed beside this program.
+TEST(Clothoide, DixTermes) {
+  const lecteur l("");
+  double x = 0;
+  double y = 0;
+  bool erreur = true;
+  clotho(100, 1e9, 275, x, y, erreur);
+  EXPECT_FALSE(erreur);
+  const point p = loc_clothoide_par_integration(100, 1e9, 275);
+  EXPECT_NEAR(x, p.x, 2e-6);
+  EXPECT_NEAR(y, p.y, 2e-6);
+  clotho(100, 1e9, 276, x, y, erreur);
+  EXPECT_TRUE(erreur);
+  clotho(2e-6, 1, 1e-6, x, y, erreur);
+  EXPECT_FALSE(erreur) << "small, but above a millionth";
+  clotho(1.1e-6, -1.1e-6, 1e-6, x, y, erreur);
+  EXPECT_FALSE(erreur);
 }
 
 TEST(Clothoide, ParLesFonctions) {
@@ -563,7 +629,7 @@ TEST(Affectation, UneVariableSertDansLesExpressions) {
   EXPECT_EQ(lu("< X = 1 > < x = (X + 1) > (X, -X)"), "2 -2") << "a new value replaces the old one";
   EXPECT_EQ(lu("< X = -1.D0 > (X)"), "-1d");
   EXPECT_EQ(lu("< X = 1 * 5 > (X)"), "5");
-  EXPECT_EQ(lu("< A_16_CARACTERES = 1 > (A_16_CARACTERES)"), "1");
+  EXPECT_EQ(lu("< SEIZE_CARACTERES = 1 > (SEIZE_CARACTERES)"), "1");
   EXPECT_EQ(lu("N < X = 1 > (X)"), "N 1") << "it leaves no term";
   EXPECT_EQ(lu("< X = (1 +\n1) > (X)"), "2");
 }
@@ -593,6 +659,9 @@ TEST(Affectation, VariableInconnue) {
   EXPECT_EQ(lu("< X = 1 > (XX + 1)"), "!XX : VARIABLE INCORRECTE DANS EXPRESSION");
   EXPECT_EQ(lu("(DIX_SEPT_LETTRESX)"), "!DIX_SEPT_LETTRESX : VARIABLE INCORRECTE DANS EXPRESSION");
   EXPECT_EQ(lu("(SIN)"), "!SIN : VARIABLE INCORRECTE DANS EXPRESSION");
+  EXPECT_EQ(lu("< SEIZE_CARACTERES = 1 > (SEIZE_CARACTERESX)"),
+            "!SEIZE_CARACTERESX : VARIABLE INCORRECTE DANS EXPRESSION")
+      << "a name that is too long is no other one cut short";
 }
 
 TEST(Affectation, MilleNeufCentQuatreVingtDixNeufValeurs) {
@@ -613,6 +682,12 @@ TEST(Affectation, CaracteresDesValeurs) {
 
 // More names than values can't be given by data alone.
 TEST(Affectation, DeuxMilleNoms) {
+  {
+    const lecteur l("< NOUVEAU = 1 > (NOUVEAU)");
+    and_global.and_nb_variables = 1999;
+    EXPECT_THAT(loc_termes(l), ElementsAre("1"));
+    EXPECT_EQ(and_global.and_nb_variables, 2000);
+  }
   const lecteur l("< NOUVEAU = 1 >");
   and_global.and_nb_variables = 2000;
   EXPECT_THAT(loc_termes(l),
@@ -653,6 +728,9 @@ TEST(ListeDirigee, Compteurs) {
       << "a new list does";
   EXPECT_EQ(lu("< < (CPTR('K')) > I = 10 20 >"), arguments("CPTR"));
   EXPECT_EQ(lu("< < (CPTR('DIX_SEPT_LETTRESX')) > I = 10 20 >"), arguments("CPTR"));
+  EXPECT_EQ(lu("< < (SEIZE_CARACTERES, CPTR('seize_caracteres')) > SEIZE_CARACTERES = 7 8 >"), "7 1 8 2");
+  EXPECT_EQ(lu("< < (CPTR('SEIZE_CARACTERESX')) > SEIZE_CARACTERES = 7 8 >"), arguments("CPTR"))
+      << "a name that is too long is no other one cut short";
 }
 
 namespace {
