@@ -312,6 +312,54 @@ TEST(Listes, LErreurDeListeSuitLeTermeFaux) {
   EXPECT_EQ(and_nb_termes(3, 1), 0);
 }
 
+// A list that is whole ends before what can't go on with it; an operator out of order is a fault.
+TEST(Listes, DerriereUnNombre) {
+  struct forme {
+    std::string donnees, valeurs;
+  };
+  const std::vector<forme> formes = {{"1 A 2", "1 2"},
+                                     {"0 A 4 INC 2", "0 2 4"},
+                                     {"0 A 4 DIV 2", "0 2 4"},
+                                     {"0 REP 2 INC 2", "0 2 4"},
+                                     {"2 * 3", "3 3"}};
+  for (const forme& f : formes) {
+    for (const std::string operateur : {"A", "REP", "*", ")"})
+      EXPECT_EQ(lu(f.donnees + " " + operateur + " 2"), precedence_liste) << f.donnees << operateur;
+    EXPECT_EQ(lu(f.donnees + " -3"), f.valeurs + " -3");
+    EXPECT_EQ(lu(f.donnees + " +3"), f.valeurs + " 3");
+    EXPECT_EQ(lu(f.donnees + " (3)"), f.valeurs + " 3");
+    EXPECT_EQ(lu(f.donnees + " 7"), f.valeurs + " 7");
+    EXPECT_EQ(lu(f.donnees + " X"), f.valeurs + " X");
+    EXPECT_EQ(lu(f.donnees + " 'x'"), f.valeurs + " 'x'");
+    EXPECT_EQ(lu(f.donnees + " ="), f.valeurs + " #13");
+    EXPECT_EQ(lu(f.donnees + "\nX"), f.valeurs + " X");
+    if (f.donnees == "1 A 2") continue;
+    for (const std::string operateur : {"INC", "DIV"})
+      EXPECT_EQ(lu(f.donnees + " " + operateur + " 2"), precedence_liste) << f.donnees << operateur;
+  }
+  for (const std::string terme :
+       {"+ 1", "- 1", "A 1", "REP 1", "DIV 1", "* 1", "(1)", ")", "1", "X", "'x'", "=", "\n"})
+    EXPECT_EQ(lu("0 REP 2 " + terme), precedence_liste) << terme;
+  EXPECT_EQ(lu("5 -3 +2 (1) 7 X"), "5 -3 2 1 7 X");
+  for (const std::string terme : {"INC 2", "DIV 2", ")"})
+    EXPECT_EQ(lu("5 " + terme), "5 " + precedence_liste) << terme;
+}
+
+TEST(Listes, DerriereUnOperateur) {
+  for (const std::string debut : {"1 A ", "0 A 4 INC ", "0 A 4 DIV ", "0 REP ", "0 REP 2 INC ", "2 * "})
+    for (const std::string terme : {"A", "REP", "DIV", "INC", "*", ")", "X", "'x'", "=", "\n", "('x')"})
+      EXPECT_EQ(lu(debut + terme), precedence_liste) << debut << terme;
+  EXPECT_EQ(lu("-1 A +1"), "-1 0 1");
+  EXPECT_EQ(lu("4 A 0 INC -2"), "4 2 0");
+  EXPECT_EQ(lu("4 A 0 INC (0 - 2)"), "4 2 0");
+  EXPECT_EQ(lu("0 A 4 DIV +2"), "0 2 4");
+  EXPECT_EQ(lu("0 A 4 DIV (2)"), "0 2 4");
+  EXPECT_EQ(lu("0 REP +2 INC -2"), "0 -2 -4");
+  EXPECT_EQ(lu("0 REP (2) INC (3)"), "0 3 6");
+  EXPECT_EQ(lu("2 * -3"), "-3 -3");
+  EXPECT_EQ(lu("2 * (3)"), "3 3");
+}
+
 TEST(Listes, PlusieursValeursNeSontPasUnOperande) {
   EXPECT_EQ(lu("3 * (1, 2)"), "! ERREUR DANS ANALYSE LISTE TERMES ( TERME , INCREMENTATEUR OU  REPETITEUR)");
   EXPECT_EQ(lu("1 A (1, 2)"), "! ERREUR DANS ANALYSE LISTE TERMES ( TERME , INCREMENTATEUR OU  REPETITEUR)");
@@ -349,6 +397,49 @@ TEST(Expression, FautesDePrecedence) {
         "(A + 1)",       "(1 A 2)",   "(1 REP 2)",  "(= 1)",     "(1 < 2)",   "(1 : 2)",
         "('a' 'b')",     "(SIN())",   "(SIN(,1.))", "(1 !)",     "((1)"})
     EXPECT_EQ(lu(donnees), precedence) << donnees;
+}
+
+// What may stand behind an operand, whatever operator is before it; and what may not.
+TEST(Expression, DerriereUnOperande) {
+  for (const std::string debut : {"(1 ", "(1 + 2 ", "(1 * 2 ", "(2 ** 3 ", "(1, 2 ", "(ABS(1 "})
+    for (const std::string terme :
+         {"(3)", "X", "SIN(1.)", "3", "1.5", "'a'", "=", "A", "!", "**", "** 2 **"}) {
+      if (terme == "**" && debut != "(2 ** 3 ") continue;  // elsewhere a power may follow
+      EXPECT_EQ(lu("< X = 1 >\n" + debut + terme + "))"), precedence) << debut << terme;
+    }
+  EXPECT_EQ(lu("(2 ** 3 + 1) (2 ** 3 - 1) (2 ** 3 * 2) (17 / 2 ** 3)"), "9 7 16 2");
+  EXPECT_EQ(lu("(7 - 2 + 1) (7 - 2 * 3) (2 * 3 + 1) (7 - 2 ** 2) (12 / 2 * 3) (2 * 3 - 1)"), "6 1 7 3 18 5");
+  EXPECT_EQ(lu("(1, 2 + 3) (1, 2 * 3) (1, 2 ** 3) (1, 2, 3)"), "1 5 1 6 1 8 1 2 3");
+  EXPECT_EQ(lu("(2 + 3, 1) (2 * 3, 1) (2 ** 3, 1) (ABS(2), 1)"), "5 1 6 1 8 1 2 1");
+  EXPECT_EQ(lu("(ABS(2 + 3)) (ABS(2 - 3)) (ABS(2 * 3)) (ABS(7 / 2)) (ABS(2 ** 3)) (MAX(1, 2 ** 3))"),
+            "5 1 6 3 8 8");
+}
+
+// The same behind an operator.
+TEST(Expression, DerriereUnOperateur) {
+  for (const std::string debut : {"(", "(1 + ", "(1 * ", "(2 ** ", "(1, ", "(ABS("})
+    for (const std::string terme : {")", "* 2", "/ 2", "** 2", ", 2", "=", "A", "!"})
+      EXPECT_EQ(lu(debut + terme + "))"), precedence) << debut << terme;
+  for (const std::string debut : {"(1 + ", "(1 - ", "(1 * ", "(1 / ", "(2 ** "})
+    for (const std::string signe : {"+ 2)", "- 2)"})
+      EXPECT_EQ(lu(debut + signe), precedence) << debut << signe;
+  for (const std::string terme : {"1", "Y", "'a'", "=", "A", "!"})
+    EXPECT_EQ(lu("< X = 1 >\n(X " + terme + ")"), precedence) << terme;
+  EXPECT_EQ(lu("(+2) (1, +2) (ABS(-2)) (1, -2) (MAX(-1, +2))"), "2 1 2 2 1 -2 2");
+  EXPECT_EQ(lu("((3)) (1 + (3)) (2 * (3)) (2 ** (3)) (1, (3)) (ABS((3)))"), "3 4 6 8 1 3 3");
+  EXPECT_EQ(lu("< X = 3 >\n(X) (1 + X) (2 * X) (2 ** X) (1, X) (ABS(X)) (-X)"), "3 4 6 8 1 3 3 -3");
+  EXPECT_EQ(lu("< X = 3 >\n(X + 1) (X - 1) (X * 2) (X / 2) (X ** 2) (X, 2) (MAX(X, 2))"), "4 2 6 1 9 3 2 3");
+  EXPECT_EQ(lu("(1 + ABS(2)) (2 * ABS(3)) (2 ** ABS(3)) (1, ABS(2)) (ABS(ABS(2))) (-ABS(2))"),
+            "3 6 8 1 2 2 -2");
+}
+
+// Each fault leaves nothing behind for the next expression.
+TEST(Expression, UnEchecVideLesOperandes) {
+  for (const std::string donnees : {"(1, 2 X)", "(1, 2 / 0)", "(1, K + 2)", "(1, SIN(2))", "(1, (2, 3))"}) {
+    const lecteur l(donnees);
+    and_analyse_unite_syntaxique();
+    EXPECT_EQ(and_nb_termes(1, 3), 0) << donnees;
+  }
 }
 
 TEST(Expression, UneParentheseInterieureTientUneValeur) {
@@ -683,6 +774,11 @@ TEST(Affectation, CaracteresDesValeurs) {
 // More names than values can't be given by data alone.
 TEST(Affectation, DeuxMilleNoms) {
   {
+    const lecteur l("< X = 1 > < x = 2 > < Y = 3 > < X = 4 > (X, Y)");
+    EXPECT_THAT(loc_termes(l), ElementsAre("4", "3"));
+    EXPECT_EQ(and_global.and_nb_variables, 2) << "a new value is no new name";
+  }
+  {
     const lecteur l("< NOUVEAU = 1 > (NOUVEAU)");
     and_global.and_nb_variables = 1999;
     EXPECT_THAT(loc_termes(l), ElementsAre("1"));
@@ -781,7 +877,14 @@ TEST(ListeDirigee, FautesDAcquisition) {
                                     "< < 1 > I = 1 < >",
                                     "< 'x' >",
                                     "< ;",
-                                    "< < 1 > + = 1 >"})
+                                    "< < 1 > + = 1 >",
+                                    "< < 1 > 7 >",
+                                    "< < 1 > 'I' >",
+                                    "< < 1 > I >",
+                                    "< < 1 > I 7 >",
+                                    "< < 1 > I I = 1 >",
+                                    "< < 1 > I = 1 = 2 >",
+                                    "< < 1 > > I = 1 >"})
     EXPECT_EQ(lu(donnees), dirigee) << donnees;
 }
 
