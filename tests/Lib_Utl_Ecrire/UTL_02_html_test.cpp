@@ -120,6 +120,9 @@ TEST_F(NoteHtml, UnLienAUneAdresseQueLesNavigateursSuivent) {
   EXPECT_EQ(html(), "<a href='#2'>ici</a>\n");
   utl_02_ecrire_lien_hypertexte("a b'é?%.svg#z"_l1, "x");
   EXPECT_EQ(html(), "<a href='a%20b%27%E9%3F%25.svg#z'>x</a>\n");
+  // As it stands, "&copy/" would be read as a sign of its own.
+  utl_02_ecrire_lien_hypertexte("Svg_a&copy\\s.svg", "x");
+  EXPECT_EQ(html(), "<a href='Svg_a%26copy/s.svg'>x</a>\n");
 }
 
 TEST_F(NoteHtml, UnDessinEstUnObjet) {

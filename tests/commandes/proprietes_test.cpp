@@ -15,10 +15,13 @@
 
 #include "Executer.hpp"
 #include "Html_strict.hpp"
+#include "Svg_strict.hpp"
 
 namespace fs = std::filesystem;
 using testing::EndsWith;
+using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 namespace {
@@ -36,6 +39,51 @@ std::string loc_donnees(const std::string& exemple) {
   std::ifstream fichier(fs::path(ZOF_EXEMPLES) / exemple / (exemple + ".zof"), std::ios::binary);
   if (!fichier) throw std::runtime_error("no data file of the example " + exemple);
   return {std::istreambuf_iterator<char>(fichier), {}};
+}
+
+/// Lists all that was declared.
+constexpr std::string_view editions = "EDIT MATE\nEDIT SECT TOUT\nEDIT SOLL\n";
+
+/// The example with these lists before its first analysis.
+std::string loc_edite_avant(std::string donnees) {
+  std::size_t analyse = std::string::npos;
+  for (const char* const commande : {"\nJUST ", "\nDIME ", "\nINTE "})
+    analyse = std::min(analyse, donnees.find(commande));
+  if (analyse == std::string::npos) throw std::runtime_error("an example without an analysis");
+  return donnees.insert(analyse + 1, editions);
+}
+
+/// The example with these lists at its end: of what the analyses left behind.
+std::string loc_edite_apres(std::string donnees) {
+  const std::size_t fin = donnees.rfind("\nFIN_");
+  if (fin == std::string::npos) throw std::runtime_error("an example without an end");
+  return donnees.insert(fin + 1, editions);
+}
+
+/// The heads of the axes, alone, are filled in black.
+bool loc_est_contour_ou_courbe(const element_svg& e) {
+  return e.nom == "path" && e.attributs.at("fill") != "rgb(0,0,0)";
+}
+
+std::size_t loc_nombre(std::string_view texte, std::string_view motif) {
+  std::size_t n = 0;
+  for (std::size_t i = texte.find(motif); i != std::string_view::npos; i = texte.find(motif, i + 1)) ++n;
+  return n;
+}
+
+/// Lines of a text note from its first justification on, but its titles, whose numbers follow what stands
+/// before, their underlines, and the banner of the end.
+std::vector<std::string> loc_lignes_de_justification(const std::string& note) {
+  std::vector<std::string> lignes;
+  std::istringstream flux(note.substr(note.find("Justification de la section")));
+  for (std::string ligne, mot; std::getline(flux, ligne);) {
+    if (!(std::istringstream(ligne) >> mot) || ligne.find_first_not_of(" .*=-_+X") == std::string::npos)
+      continue;
+    if (ligne.find("Justification de la section") != std::string::npos) continue;
+    const bool titre = mot.front() >= '0' && mot.front() <= '9' && mot.back() == '.';
+    if (!titre) lignes.push_back(ligne);
+  }
+  return lignes;
 }
 
 /// Runs that leave something behind: data that end too soon, data that are refused, an option.
@@ -93,6 +141,37 @@ TEST_P(ChaqueExemple, AUneNoteHtmlSaine) {
   EXPECT_THAT(fautes_html(c.html), IsEmpty());
   for (const std::string& fichier : fichiers_lies(c.html))
     EXPECT_TRUE(c.fichiers.contains(fichier)) << "the note refers to " << fichier;
+}
+
+TEST_P(ChaqueExemple, EditeEtDessineCeQuIlDeclareAvantEtApresSesAnalyses) {
+  const std::string donnees = loc_donnees(GetParam());
+  const course nue = executer(donnees);
+  const std::vector<std::string> resultats = loc_lignes_de_justification(nue.txt);
+  ASSERT_GT(resultats.size(), 100U);
+  for (const std::string& edite : {loc_edite_avant(donnees), loc_edite_apres(donnees)}) {
+    SCOPED_TRACE(edite.substr(edite.size() - std::min<std::size_t>(edite.size(), 120)));
+    const course c = executer(edite);
+    ASSERT_EQ(c.statut, 0) << c.console;
+    for (const auto& [nom, contenu] : c.fichiers)
+      EXPECT_THAT(contenu, Not(HasSubstr("ERREUR PROGRAMMATION"))) << nom;
+    EXPECT_THAT(c.console, Not(HasSubstr("ERREUR PROGRAMMATION")));
+    // One section to each example, in two sizes; the diagrams of the analyses stay.
+    const std::size_t sections = loc_nombre(donnees, "\nSECT ");
+    EXPECT_EQ(c.svg.size(), nue.svg.size() + 2 * sections);
+    for (const auto& [nom, contenu] : c.svg) {
+      EXPECT_THAT(fautes_svg(contenu), IsEmpty()) << nom;
+      EXPECT_THAT(textes_genes(contenu), IsEmpty()) << nom;
+      EXPECT_TRUE(std::ranges::any_of(elements_svg(contenu), loc_est_contour_ou_courbe)) << nom;
+    }
+    EXPECT_THAT(fautes_html(c.html), IsEmpty());
+    for (const std::string& fichier : fichiers_lies(c.html))
+      EXPECT_TRUE(c.fichiers.contains(fichier)) << "the note refers to " << fichier;
+    for (const char* const titre : {"Materiau : ", "Section : ", "Sollicitation : "})
+      EXPECT_GT(loc_nombre(c.txt, titre), loc_nombre(nue.txt, titre)) << titre;
+    // The lists change nothing of what is computed.
+    const std::vector<std::string> lignes = loc_lignes_de_justification(c.txt);
+    EXPECT_FALSE(std::ranges::search(lignes, resultats).empty());
+  }
 }
 
 TEST_P(ChaqueExemple, NEcritAucunNombreSansValeur) {

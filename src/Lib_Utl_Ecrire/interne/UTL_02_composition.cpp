@@ -14,7 +14,7 @@ constexpr bool loc_est_ascii(char c) { return static_cast<unsigned char>(c) < fi
 /// Within a path: characters that are not part of an address as they stand, or that end it.
 constexpr bool loc_est_a_coder(char c) {
   const auto code = static_cast<unsigned char>(c);
-  return code <= ' ' || code >= 0x7F || std::string_view("'\"<>%#?").find(c) != std::string_view::npos;
+  return code <= ' ' || code >= 0x7F || std::string_view("'\"<>%#?&").find(c) != std::string_view::npos;
 }
 
 }  // namespace

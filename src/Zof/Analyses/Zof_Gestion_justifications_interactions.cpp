@@ -105,13 +105,17 @@ std::vector<utl_04_point> loc_places(const std::vector<point_trace>& points, poi
   return places;
 }
 
-void loc_dessiner_croix(const point_trace& point, point_xy croix) {
-  const auto& [label, p] = point;
+void loc_dessiner_croix(point_xy p, point_xy croix) {
   utl_04_creer_ligne_svg({p.x - croix.x, p.y - croix.y}, {p.x + croix.x, p.y + croix.y},
                          {.opt_couleur = utl_04_rouge});
   utl_04_creer_ligne_svg({p.x - croix.x, p.y + croix.y}, {p.x + croix.x, p.y - croix.y},
                          {.opt_couleur = utl_04_rouge});
-  utl_04_ecrire_texte_svg(label, {p.x, p.y + croix.y}, {}, {.opt_couleur_trait = utl_04_rouge});
+}
+
+void loc_nommer_croix(const point_trace& point, point_xy croix) {
+  const auto& [label, p] = point;
+  utl_04_ecrire_texte_svg(label, {p.x, p.y + croix.y}, {},
+                          {.opt_couleur_trait = utl_04_rouge, .opt_halo = true});
 }
 
 void loc_dessiner(const zof_plan_interaction& plan, const zof_courbe_interaction& courbe,
@@ -124,7 +128,9 @@ void loc_dessiner(const zof_plan_interaction& plan, const zof_courbe_interaction
                               {.opt_label_axe_x = plan.label_abscisse,
                                .opt_label_axe_y = plan.label_ordonnee,
                                .opt_points_visibles = places});
-  for (const point_trace& point : points) loc_dessiner_croix(point, croix);
+  for (const point_trace& point : points) loc_dessiner_croix(point.p, croix);
+  // Over all the crosses: one near by must not strike a label out.
+  for (const point_trace& point : points) loc_nommer_croix(point, croix);
   utl_04_inclure_dessin_html();
   utl_04_finaliser_svg();
 }

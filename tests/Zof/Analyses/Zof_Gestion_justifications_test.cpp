@@ -499,7 +499,10 @@ TEST_F(Diagrammes, ChaquePaireDeCasEstUnPoint) {
   const auto [haut, bas] = std::ranges::minmax(ys);
   EXPECT_NEAR(nombre_apres(ligne, "x2='") - nombre_apres(ligne, "x1='"), (droite - gauche) / 25, 0.01);
   EXPECT_NEAR(nombre_apres(ligne, "y1='") - nombre_apres(ligne, "y2='"), (bas - haut) / 25, 0.01);
-  for (int i = 1; i <= 6; ++i) EXPECT_EQ(nombre_de(svg, ">E" + std::to_string(i) + "</text>"), 1U) << i;
+  // Each label with its white rim, after the last cross.
+  const std::string noms = svg.substr(svg.rfind("<line "));
+  for (int i = 1; i <= 6; ++i) EXPECT_EQ(nombre_de(noms, ">E" + std::to_string(i) + "</text>"), 2U) << i;
+  EXPECT_EQ(nombre_de(noms, "stroke=\"rgb(255,255,255)\" stroke-width='3'"), 6U);
   EXPECT_TRUE(svg.ends_with("</svg>\n"));
   EXPECT_THAT(html(), HasSubstr("MZ_0_1.svg"));
 }
