@@ -37,10 +37,12 @@ struct acquisition {
   int niveau = 1;
 };
 
-/// One more level. The brackets are no part of the pattern.
+/// One more level. The brackets are no part of the pattern; one that comes later is a fault, and the message
+/// shows what stands before it.
 bool loc_ouvrir_niveau(acquisition& a) {
+  if (a.etat != loc_motif_vide) return false;
   and_initialiser_structure(2, 1);
-  return a.etat == loc_motif_vide && ++and_global.and_nb_niveaux <= loc_nb_maxi_files;
+  return ++and_global.and_nb_niveaux <= loc_nb_maxi_files;
 }
 
 /// The pattern or a list of values is whole; what comes next is the variable of the next level.

@@ -884,7 +884,10 @@ TEST(ListeDirigee, FautesDAcquisition) {
                                     "< < 1 > I 7 >",
                                     "< < 1 > I I = 1 >",
                                     "< < 1 > I = 1 = 2 >",
-                                    "< < 1 > > I = 1 >"})
+                                    "< < 1 > > I = 1 >",
+                                    "< < 1 < 2 > I = 1 > J = 2 >",
+                                    "< < 1 > I = 1 < > J = 2 >",
+                                    "< < 1 > < I = 1 > J = 2 >"})
     EXPECT_EQ(lu(donnees), dirigee) << donnees;
 }
 
@@ -1009,6 +1012,16 @@ TEST(MessagesDuLangage, LaSourceDeLUniteJusquALaFaute) {
             " ANALYSE> X *\n"
             " MESSAGE> X : VARIABLE INCORRECTE DANS EXPRESSION\n");
   EXPECT_EQ(l.listing(), "EFFO 1.\n");
+}
+
+// A bracket too many: the pattern that was read so far is shown.
+TEST(MessagesDuLangage, LeMotifDUneListeDirigeeFautive) {
+  const lecteur l("< < X 1 < 2 > I = 1 > J = 2 >");
+  EXPECT_EQ(loc_joindre(loc_termes(l)), dirigee);
+  EXPECT_EQ(l.console(),
+            "\n ===> ERREUR DANS  UNITE SYNTAXIQUE COURANTE : \n\n"
+            " ANALYSE> X 1 <\n"
+            " MESSAGE>  LISTE DIRIGEE : DERNIER TERME LU INCORRECT\n");
 }
 
 TEST(MessagesDuLangage, LeMotDEnSuiteNAppartientPasALUnite) {
