@@ -578,3 +578,61 @@ TEST(Dimensionnement, ArreteQuandLesBarresNeTiennentPlusCoteACote) {
   EXPECT_EQ(c.statut, 1);
   EXPECT_THAT(c.console, HasSubstr("Zof_Ajuster_ferraillage_automatique : Cas impossible"));
 }
+
+TEST(Dimensionnement, PartageLesBarresEntreLesLits) {
+  // Two layers at 0.264 and 0.204 m under the axis: 12.6 cm2 for their mean of d = 0.534 m, six bars of 12 in
+  // each.
+  const course c = executer(fichier(
+      poutre(automatique("DISP INFE STRI ENRO 0.03 LITS 2 DIST 0.06 E_MA 0.20 E_MI 0.02 SELE P_12 FIN_")) +
+      chargement("M", cas("MY 0.25")) + "DIME POUTRE SOLL M FIN_DIME\nJUST POUTRE SOLL M FIN_JUST\n"));
+  ASSERT_EQ(c.statut, 0) << c.console;
+  EXPECT_EQ(std::ceil(aire_flexion_simple(0.25, 0.30, 0.534) / 2 / 1.130973e-4), 6);
+  EXPECT_THAT(c.txt, HasSubstr("Nombre aciers places         : 12\n"));
+  EXPECT_THAT(c.txt, HasSubstr("section acier placee         : 14 cm2"));
+  EXPECT_THAT(c.console, HasSubstr("==> Equilibre sous :cas"));
+}
+
+TEST(Dimensionnement, EditeLaBarreChoisie) {
+  const course c =
+      executer(fichier(poutre(automatique("DISP INFE STRI ENRO 0.03 E_MA 0.15 SELE P_12 P_20 P_32 FIN_")) +
+                       chargement("M", cas("MY 0.15")) + "DIME POUTRE SOLL M FIN_DIME\nEDIT SECT POUTRE\n"));
+  ASSERT_EQ(c.statut, 0) << c.console;
+  EXPECT_THAT(c.txt, HasSubstr("Label acier optimal          : P_20"));
+  EXPECT_THAT(c.txt, HasSubstr("  - Diametre (mm) : 20.000\n"));
+}
+
+TEST(Dimensionnement, FaitLeBilanDeToutesLesZones) {
+  // The bottom fails to keep its spacings, the sides behind it do not: the whole has failed. All steel
+  // counts.
+  const std::string bas = automatique("DISP INFE STRI ENRO 0.03 E_MA 0.15 E_MI 0.02 SELE P_8 FIN_", "BAS");
+  const std::string cotes = automatique("DISP LATE STRI ENRO 0.03 E_MA 0.15 SELE P_12 FIN_", "LAT");
+  const course c = executer(
+      fichier(poutre(bas + cotes) + chargement("M", cas("MY 0.2")) + "DIME POUTRE SOLL M FIN_DIME\n"));
+  ASSERT_EQ(c.statut, 0) << c.console;
+  EXPECT_THAT(c.txt, HasSubstr("Ajustement Espacements       : en echec"));
+  EXPECT_THAT(c.txt, HasSubstr("Ajustement du ferraillage : Effectue\n"));
+  EXPECT_THAT(c.txt, HasSubstr("Resultat final dimensionnement automatique : Effectue avec non respect des "
+                               "espacements specifies\n"));
+  // Some 9 cm2 of the bottom and ten bars of 12 in the sides: 1.1 % of 0.18 m2; the sides alone have 0.6 %.
+  EXPECT_THAT(c.txt, HasSubstr("Pourcentage de Ferraillage total : 2%"));
+}
+
+TEST(Dimensionnement, DimensionneDansLeRepereDuChargement) {
+  // N = 0.4 at 0.25 m under the axis takes 0.10 off the moment. The loading that is read last has another
+  // frame than the one that is designed.
+  const auto donnees = [](const std::string& repere, const std::string& moment) {
+    return poutre(lit_bas) + "SOLL M SECT POUTRE TITR 'Charges' REPE " + repere +
+           " ETAT ELU DURA SITU EXPL SERV POND\n" + cas("N 0.4 MY " + moment) + "FIN_ETAT FIN_SOLL\n" +
+           chargement("AUTRE", cas("MY 0.1")) + "DIME POUTRE SOLL AUTRE SOLL M FIN_DIME FIN_\n";
+  };
+  double attendu = 0;
+  {
+    const modele m(donnees("GEOM", "0.25"));
+    ASSERT_FALSE(m.erco()) << m.console();
+    attendu = aire_acier("INF");
+  }
+  const modele m(donnees("Y 0. Z -0.25 ANGL 0.", "0.35"));
+  ASSERT_FALSE(m.erco()) << m.console();
+  EXPECT_GT(attendu, aire_flexion_simple(0.1, 0.30, 0.55));
+  EXPECT_NEAR(aire_acier("INF"), attendu, 1e-3 * attendu);
+}
