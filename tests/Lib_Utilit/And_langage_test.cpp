@@ -207,6 +207,7 @@ TEST(SerieInc, EcartALaFin) {
 TEST(SerieInc, Bornes) {
   EXPECT_EQ(lu("0.D0 A 3.D-6 INC 1.02D-6"), "0d 1.02e-06d 2.04e-06d 3e-06d");
   EXPECT_EQ(lu("0.D0 A 3.D-6 INC .98D-6"), increment);
+  EXPECT_EQ(lu("0.D0 A 3.D-6 INC 1.D-6"), increment);
   EXPECT_EQ(lu("0.D0 A -3.D-6 INC -1.02D-6"), "0d -1.02e-06d -2.04e-06d -3e-06d");
   const lecteur l("0 A 200001 INC 2");
   and_analyse_unite_syntaxique();
@@ -814,6 +815,8 @@ TEST(ListeDirigee, LesFinsDePhraseDuMotifSortent) {
   EXPECT_EQ(liste("< < EFFO (I) ; > I = 1 A 2\n\n>\nFIN"), "EFFO 1 ;\nEFFO 2 ;\nFIN");
   EXPECT_EQ(liste("< <\nEFFO (I +\n1) FIN\n>\nI =\n1\nA 3 >\nFIN"), "EFFO 2 FIN\nEFFO 3 FIN\nEFFO 4 FIN\nFIN")
       << "above the pattern line ends don't count";
+  EXPECT_EQ(lu("< <\n> I = 1 2 > X"), "X") << "a pattern of line ends alone";
+  EXPECT_EQ(lu("< < ; > I = 1 > X"), "X");
 }
 
 TEST(ListeDirigee, Compteurs) {
