@@ -76,7 +76,7 @@ efforts loc_precontrainte_isostatique(int num_section, const zof_cas_interaction
 std::vector<point_trace> loc_points(const zof_plan_interaction& plan, const zof_cas_interactions& cas) {
   std::vector<point_trace> points;
   const auto ajouter = [&](const efforts& f) {
-    points.push_back({"E" + std::to_string(points.size() + 1), zof_point_du_plan(plan, f)});
+    points.push_back({concat({"E", std::to_string(points.size() + 1)}), zof_point_du_plan(plan, f)});
   };
   for (const zof_effort& premier : cas.opt_les_efforts_1) {
     if (cas.opt_les_efforts_2.empty()) ajouter(premier.get_efforts());
