@@ -16,6 +16,7 @@
 #include "QB7_Sections.hpp"
 #include "Zof_Classe_Ferraillage.hpp"
 #include "Zof_Gestion_Section.hpp"
+#include "Zof_Gestion_dimensionnement.hpp"
 
 using testing::HasSubstr;
 using testing::Not;
@@ -109,6 +110,26 @@ TEST(Dimensionnement, NeDonnePasDAcierOuLeBetonSuffit) {
   EXPECT_LT(aire_acier("INF"), 1e-7);
   EXPECT_LT(aire_acier("SUP"), 1e-7);
   EXPECT_EQ(zof_get_pt_nom_zone_section("POUTRE", "INF")->m_diametre_zone, 0);
+}
+
+TEST(Dimensionnement, NAlloueRienPourMoinsDUnDixiemeDeMillimetreCarre) {
+  const modele m(poutre(lit_bas) + "FIN_\n");
+  zof_ferraillage& zone =
+      dynamic_cast<zof_ferraillage&>(*zof_get_pt_nom_zone_section("POUTRE", socle::texte<32>("INF")));
+  zof_declarer_aciers_passifs_dimensionnables_section("POUTRE");
+  const double aire_pleine = 4 * zone.m_matiere_zone_qb7;
+  const auto diametre_pour = [&](double aire) {
+    gestion_dimensionnement_reinitialiser();
+    EXPECT_EQ(
+        qb7_fixer_c_remplissage(zone.m_numero_section_qb7, zone.get_numero_zone_qb7(), aire / aire_pleine)
+            .code,
+        0);
+    zof_envelopper_aciers_dimensionnes_toutes_sollicitations("POUTRE");
+    zof_affecter_aciers_dimensionnes("POUTRE", zone.m_numero_section_qb7);
+    return zone.m_diametre_zone;
+  };
+  EXPECT_EQ(diametre_pour(5e-8), 0);
+  EXPECT_EQ(diametre_pour(2e-7), 0.001);  // four bars of 0.25 mm: 1 in whole millimetres
 }
 
 TEST(Dimensionnement, EnTractionSimplePartageEntreDeuxLitsSymetriques) {
