@@ -200,9 +200,9 @@ std::array<int, 2> utl_04_fenetre_proportionnee(int cote, std::array<double, 2>&
 }
 
 double utl_04_pas_grille(double longueur) {
-  if (!(longueur > 0) || !std::isfinite(longueur)) return 1;
-  // The logarithm may fall on either side of a power of ten: begin one below.
   const double dixieme = longueur / 10;
+  if (!(dixieme > 0) || !std::isnormal(dixieme)) return 1;
+  // The logarithm may fall on either side of a power of ten: begin one below.
   for (int k = tronquer(std::floor(std::log10(dixieme))) - 1;; ++k) {
     for (const double facteur : {1.0, 2.0, 5.0}) {
       // As a quotient for small steps: 1/10^3 is the nearest number to 0.001.
