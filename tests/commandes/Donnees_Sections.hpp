@@ -69,4 +69,21 @@ SECT PONT
 FIN_SECT
 )";
 
+/// A plain concrete prism 0.30 x 0.60, C30/37, whose stresses are worked out by hand: 20 MPa at the ultimate
+/// states, 18 MPa at the characteristic state, nothing in tension.
+inline const std::string prisme = R"(ZOF
+MATE BETON C30 TITR 'Beton C30/37' FCK 30. PREC NON FIN_MATE
+SECT PRISME
+  TITR 'Prisme 30 x 60'
+  CONT FUT
+    TITR 'Fut'
+    MATE C30
+    POIN
+      NUME 1 Y -0.15D0 Z -0.3D0 FIN_POIN NUME 2 Y 0.15D0 Z -0.3D0 FIN_POIN
+      NUME 3 Y 0.15D0 Z 0.3D0 FIN_POIN NUME 4 Y -0.15D0 Z 0.3D0 FIN_POIN
+    FIN_POIN
+  FIN_CONT
+FIN_SECT
+)";
+
 }  // namespace donnees

@@ -17,27 +17,12 @@
 #include "QB7_Types.hpp"
 
 using namespace socle;
+using donnees::prisme;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
 namespace {
 
-/// A plain concrete prism 0.30 x 0.60, C30/37: 20 MPa at the ultimate states, 18 MPa at the characteristic
-/// state, nothing in tension.
-const std::string prisme = R"(ZOF
-MATE BETON C30 TITR 'Beton C30/37' FCK 30. PREC NON FIN_MATE
-SECT PRISME
-  TITR 'Prisme 30 x 60'
-  CONT FUT
-    TITR 'Fut'
-    MATE C30
-    POIN
-      NUME 1 Y -0.15D0 Z -0.3D0 FIN_POIN NUME 2 Y 0.15D0 Z -0.3D0 FIN_POIN
-      NUME 3 Y 0.15D0 Z 0.3D0 FIN_POIN NUME 4 Y -0.15D0 Z 0.3D0 FIN_POIN
-    FIN_POIN
-  FIN_CONT
-FIN_SECT
-)";
 std::string soll_prisme(const std::string& repere = "GEOM") {
   return "SOLL T SECT PRISME TITR 't' REPE " + repere +
          " ETAT ELS CARA SITU EXPL SERV POND EFFO GQ N 1. FIN_EFFO FIN_ETAT\n"

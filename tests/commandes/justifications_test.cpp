@@ -20,6 +20,7 @@
 #include "Zof_Gestion_justifications.hpp"
 
 using namespace socle;
+using donnees::prisme;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -120,21 +121,6 @@ TEST(Exemples, PieuCirculaire) {
 
 // ---- The three results
 
-/// A plain concrete prism 0.30 x 0.60, C30/37: its stresses are worked out by hand.
-const std::string prisme = R"(ZOF
-MATE BETON C30 TITR 'Beton C30/37' FCK 30. PREC NON FIN_MATE
-SECT PRISME
-  TITR 'Prisme 30 x 60'
-  CONT FUT
-    TITR 'Fut'
-    MATE C30
-    POIN
-      NUME 1 Y -0.15D0 Z -0.3D0 FIN_POIN NUME 2 Y 0.15D0 Z -0.3D0 FIN_POIN
-      NUME 3 Y 0.15D0 Z 0.3D0 FIN_POIN NUME 4 Y -0.15D0 Z 0.3D0 FIN_POIN
-    FIN_POIN
-  FIN_CONT
-FIN_SECT
-)";
 std::string soll_prisme(const std::string& nom, const std::string& etat, const std::string& efforts_lus) {
   return "SOLL " + nom + " SECT PRISME TITR 't' REPE GEOM ETAT " + etat + " SITU EXPL SERV POND\n" +
          efforts_lus + "\nFIN_ETAT FIN_SOLL\n";

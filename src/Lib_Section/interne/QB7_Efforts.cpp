@@ -220,19 +220,24 @@ resultante eff_efforts_forme(const zone_loc_type& zone_loc, std::span<const poin
   }
 }
 
+etendue_epsilon eff_etendue_epsilon(std::span<const point_yz> points, const deformation& plan) {
+  const double premier = epsilon(plan, points.front());
+  etendue_epsilon etendue{premier, premier};
+  for (const point_yz& p : points.subspan(1)) {
+    const double e = epsilon(plan, p);
+    etendue.min = std::min(etendue.min, e);
+    etendue.max = std::max(etendue.max, e);
+  }
+  return etendue;
+}
+
 bool eff_limite_depassee(const zone_loc_type& zone_loc, std::span<const point_yz> points,
                          const deformation& plan) {
   const gbd_loi& loi = zone_loc.loi;
   const bool a_min = loi.epsilon_min != qb7_sans_borne;
   const bool a_max = loi.epsilon_max != qb7_sans_borne;
   if (points.empty() || (!a_min && !a_max)) return false;
-  double min = epsilon(plan, points.front());
-  double max = min;
-  for (const point_yz& p : points) {
-    const double e = epsilon(plan, p);
-    min = std::min(min, e);
-    max = std::max(max, e);
-  }
+  const auto [min, max] = eff_etendue_epsilon(points, plan);
   return (a_min && min + zone_loc.epsilon_a < loi.epsilon_min - zone_loc.epsilon_z) ||
          (a_max && max + zone_loc.epsilon_a > loi.epsilon_max - zone_loc.epsilon_z);
 }

@@ -87,6 +87,12 @@ double eff_param_surface(const zone_loc_type& zone_loc, bool matiere);
 resultante eff_efforts_forme(const zone_loc_type& zone_loc, std::span<const point_yz> points,
                              const contexte_zone& ctx, bool matiere, bool avec_tangente);
 
+/// Least and greatest strain of a plane at these points, of which there is at least one.
+struct etendue_epsilon {
+  double min = 0, max = 0;
+};
+etendue_epsilon eff_etendue_epsilon(std::span<const point_yz> points, const deformation& plan);
+
 /// Whether one of the points passes a strain limit of the zone's law.
 bool eff_limite_depassee(const zone_loc_type& zone_loc, std::span<const point_yz> points,
                          const deformation& plan);

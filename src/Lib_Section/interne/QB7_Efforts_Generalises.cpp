@@ -99,13 +99,7 @@ struct intervalles_de_region {
 intervalles_de_region loc_intervalles(std::span<const double> epsilons, std::span<const point_yz> points,
                                       const deformation& plan) {
   constexpr double tolerance = simple(1e-10f);
-  double min = epsilon(plan, points.front());
-  double max = min;
-  for (const point_yz& p : points) {
-    const double e = epsilon(plan, p);
-    min = std::min(min, e);
-    max = std::max(max, e);
-  }
+  const auto [min, max] = eff_etendue_epsilon(points, plan);
   if (!(max - min > 2 * tolerance)) {
     const std::size_t k = gbd_loi_intervalle(epsilons, (min + max) / 2);
     return {k, k};
